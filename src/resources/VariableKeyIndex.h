@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QtCore/QString>
+#include <QtCore/QVariant>
+#include <QtCore/QVector>
+
+#include <unordered_map>
+
+namespace TARN {
+
+/// Answers by which name a colour or brush is published in a group of theme variables, without
+/// walking the group on each call.
+///
+/// The index belongs to one state of the group and is made anew when the group has changed. T is
+/// QColor or QBrush.
+template <typename T>
+class VariableKeyIndex
+{
+public:
+    /// Returns the name of \a value in \a group, by the rule of
+    /// ThemeResources::getColorOrBrushKey().
+    QString key(const T &value, const QVariantMap &group);
+
+private:
+    struct Entry
+    {
+        T value;
+        QString key;
+    };
+
+    void build(const QVariantMap &group);
+    void add(const T &value, const QString &key);
+
+    QVariantMap m_group;
+    bool m_exact = true; ///< whether equal values always share a bucket
+    std::unordered_map<quint64, QVector<Entry>> m_buckets;
+};
+
+/// Tells whether \a key is of those that are preferred when several variables hold one value.
+bool isPreferredKey(const QString &key);
+
+} // namespace TARN
