@@ -1,0 +1,34 @@
+# Tests are Qt Test classes, one executable per class and one CTest test per
+# test function: the library keeps values for the life of the process, so every
+# function gets a process of its own.
+
+set(MOX_DISCOVER_TESTS_SCRIPT "${CMAKE_CURRENT_LIST_DIR}/MoxDiscoverQtTests.cmake")
+
+# mox_add_test(<name> <source>... [LIBRARIES <target>...] [ENVIRONMENT <NAME=value>...])
+function(mox_add_test name)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "LIBRARIES;ENVIRONMENT")
+  add_executable(${name} ${arg_UNPARSED_ARGUMENTS})
+  set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/tests")
+  target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}/tests")
+  target_link_libraries(${name} PRIVATE mox_compiler_settings mox::common_theme Qt5::Test
+                                        ${arg_LIBRARIES})
+
+  set(environment QT_QPA_PLATFORM=offscreen ${arg_ENVIRONMENT})
+  if(MOX_SANITIZE)
+    list(APPEND environment
+         "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/leaks.supp:print_suppressions=0"
+         UBSAN_OPTIONS=print_stacktrace=1)
+  endif()
+
+  set(listing "${CMAKE_CURRENT_BINARY_DIR}/${name}_tests.cmake")
+  add_custom_command(
+    TARGET ${name}
+    POST_BUILD
+    BYPRODUCTS "${listing}"
+    COMMAND
+      "${CMAKE_COMMAND}" "-DNAME=${name}" "-DEXECUTABLE=$<TARGET_FILE:${name}>"
+      "-DLISTING=${listing}"
+      "-DENVIRONMENT=${environment}" -P "${MOX_DISCOVER_TESTS_SCRIPT}"
+    VERBATIM)
+  set_property(DIRECTORY APPEND PROPERTY TEST_INCLUDE_FILES "${listing}")
+endfunction()
