@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QtCore/QString>
+
+class QDomDocument;
+class QIODevice;
+
+namespace TARN {
+
+/// How the reading of a theme file went; what the readers' getStatus() returns.
+enum ReaderStatus {
+    ReadFine = 0,
+    CannotOpen = 1,
+    /// Not well-formed, or well-formed with a faulty entry.
+    Faulty = 2
+};
+
+/// Parses the file at \a path into \a document, without namespace processing.
+///
+/// Returns CannotOpen for what cannot be opened as a regular file, and leaves \a document alone.
+/// Returns Faulty for what is not well-formed; \a document then holds what was read before the
+/// fault, or nothing when the parser could not be trusted with the file (see isSafeXml()).
+int readXmlFile(const QString &path, QDomDocument &document);
+
+/// The same for what \a device, which is open, holds from where it stands.
+int readXml(QIODevice &device, QDomDocument &document);
+
+} // namespace TARN
