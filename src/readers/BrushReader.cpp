@@ -1,0 +1,3 @@
+#include "readers/BrushReader.h"
+
+BrushReader::~BrushReader() = default;
