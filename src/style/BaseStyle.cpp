@@ -1,0 +1,157 @@
+#include "style/BaseStyle.h"
+
+#include "resources/ProcessCache.h"
+#include "resources/ThemeResources.h"
+
+#include <QtWidgets/QStyleOption>
+#include <QtWidgets/QStyleOptionTab>
+#include <QtWidgets/QWidget>
+
+#include <utility>
+
+namespace TARN {
+
+namespace {
+
+/// How much the edges of the border palettes differ from those of the palette they are made of.
+constexpr int edgeContrast = 115;
+
+QString variableName(QString name, bool enabled)
+{
+    if (!enabled) {
+        name += QLatin1String("Disabled");
+    }
+    return name;
+}
+
+/// Returns the brush that \a Name names, resolved once for each state. Each instance of this
+/// template keeps the two brushes of one name.
+template <const char *Name>
+const QBrush &keptBrush(bool enabled)
+{
+    static ProcessCached<QBrush> enabledBrush(
+        [] { return BaseStyle::getBrush(QLatin1String(Name), true); });
+    static ProcessCached<QBrush> disabledBrush(
+        [] { return BaseStyle::getBrush(QLatin1String(Name), false); });
+    return enabled ? enabledBrush.value() : disabledBrush.value();
+}
+
+constexpr char cardBorder[] = "CardBorderBrush";
+constexpr char grooveBackground[] = "GrooveBackgroundBrush";
+
+} // namespace
+
+BaseStyle::BaseStyle()
+    : QProxyStyle(QStringLiteral("fusion"))
+    , m_palette(baseStyle()->standardPalette())
+    , m_expanderHeaderBrush(getBrush(QStringLiteral("ExpanderHeaderBrush"), true))
+    , m_backgroundBrush(getBrush(QStringLiteral("BackgroundBrush"), true))
+{
+}
+
+const QPalette &BaseStyle::getPalette() const
+{
+    return m_palette;
+}
+
+void BaseStyle::setPalette(const QPalette &palette)
+{
+    if (palette == m_palette) {
+        return;
+    }
+    m_palette = palette;
+    Q_EMIT paletteChanged(m_palette);
+}
+
+QPalette BaseStyle::standardPalette() const
+{
+    return m_palette;
+}
+
+void BaseStyle::polish(QPalette &pal)
+{
+    pal = m_palette;
+}
+
+const QBrush &BaseStyle::lightOutlineBrush(const QPalette &pal) const
+{
+    return pal.brush(QPalette::Current, QPalette::Midlight);
+}
+
+QPalette BaseStyle::generateShadeBorderPalette(const QPalette &pal) const
+{
+    QPalette result = pal;
+    result.setBrush(QPalette::All, QPalette::Light, pal.light().color().lighter(edgeContrast));
+    result.setBrush(QPalette::All, QPalette::Dark, pal.dark().color().darker(edgeContrast));
+    return result;
+}
+
+QPalette BaseStyle::generateWinBorderPalette(const QPalette &pal) const
+{
+    QPalette result = pal;
+    result.setBrush(QPalette::All, QPalette::Light, pal.light().color().lighter(edgeContrast));
+    result.setBrush(QPalette::All, QPalette::Midlight, pal.midlight().color().darker(edgeContrast));
+    // The dark edge is lightened too: a window's border is softer than a shade.
+    result.setBrush(QPalette::All, QPalette::Dark, pal.dark().color().lighter(edgeContrast));
+    return result;
+}
+
+QBrush BaseStyle::getBrush(QString name, bool enabled)
+{
+    return ThemeResources::getBrush(variableName(std::move(name), enabled));
+}
+
+QColor BaseStyle::getColor(QString name, bool enabled)
+{
+    return ThemeResources::getColor(variableName(std::move(name), enabled));
+}
+
+const QBrush &BaseStyle::getBorderBrush(bool enabled)
+{
+    return keptBrush<cardBorder>(enabled);
+}
+
+const QBrush &BaseStyle::grooveBackgroundBrush(bool enabled) const
+{
+    return keptBrush<grooveBackground>(enabled);
+}
+
+int BaseStyle::getButtonBackgroundState(const QStyleOption &opt) const
+{
+    const bool checked = opt.state.testFlag(State_On);
+    const bool pressed = opt.state.testFlag(State_Sunken);
+    const int restingState = checked || pressed ? 1 : 0;
+    if (!opt.state.testFlag(State_Enabled) || !opt.state.testFlag(State_MouseOver) || pressed) {
+        return restingState;
+    }
+    const auto *button = qstyleoption_cast<const QStyleOptionButton *>(&opt);
+    if (button && button->features.testFlag(QStyleOptionButton::Flat)) {
+        return restingState;
+    }
+    return checked ? 1 : 2;
+}
+
+int BaseStyle::getTabBackgroundState(const QStyleOptionTab &opt) const
+{
+    if (opt.state.testFlag(State_Selected)) {
+        return 0;
+    }
+    if (!opt.state.testFlag(State_Enabled)) {
+        return 1;
+    }
+    const bool keyboardFocus =
+        opt.state.testFlag(State_HasFocus) && opt.state.testFlag(State_KeyboardFocusChange);
+    return opt.state.testFlag(State_MouseOver) || keyboardFocus ? 2 : 1;
+}
+
+bool BaseStyle::hasSeenAlt(const QWidget *w) const
+{
+    return w && m_seenAlt.contains(w->window());
+}
+
+bool BaseStyle::altDown() const
+{
+    return m_altDown;
+}
+
+} // namespace TARN

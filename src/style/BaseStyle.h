@@ -1,0 +1,101 @@
+#pragma once
+
+#include <mox_common_theme_export.h>
+
+#include <QtCore/QList>
+#include <QtGui/QBrush>
+#include <QtGui/QColor>
+#include <QtGui/QPalette>
+#include <QtWidgets/QProxyStyle>
+
+class QStyleOptionTab;
+
+namespace TARN {
+
+/// The widget style of a theme: a proxy over Qt's "fusion" style that takes its brushes from the
+/// theme's variables.
+///
+/// A style resolves some brushes when it is constructed, so the theme variables must have been
+/// published before.
+class MOX_COMMON_THEME_EXPORT BaseStyle : public QProxyStyle
+{
+    Q_OBJECT
+    Q_PROPERTY(QPalette palette READ getPalette WRITE setPalette NOTIFY paletteChanged)
+
+public:
+    /// The style's own pixel metrics.
+    enum TARN_PixelMetric : unsigned int {
+        /// The padding at both sides of the items of a list.
+        TARN_PM_ListViewPadding = QStyle::PM_CustomBase + 1
+    };
+    Q_ENUM(TARN_PixelMetric)
+
+    /// What a button is painted with. A brush of Qt::NoBrush means that none was chosen.
+    struct ButtonBrushes
+    {
+        QBrush background{Qt::NoBrush}; ///< fills the button's face
+        QBrush border{Qt::NoBrush};     ///< draws the line around the face
+        QBrush foreground{Qt::NoBrush}; ///< draws the text and tints the icon
+    };
+
+    BaseStyle();
+
+    using QProxyStyle::polish;
+
+    /// Returns the style's palette; at first the standard palette of the base style.
+    const QPalette &getPalette() const;
+    /// Returns a copy of the style's palette.
+    QPalette standardPalette() const override;
+    /// Replaces \a pal by the style's palette.
+    void polish(QPalette &pal) override;
+
+    /// Returns the brush of light outlines in \a pal. The reference lives as long as \a pal.
+    const QBrush &lightOutlineBrush(const QPalette &pal) const;
+    /// Returns \a pal with lighter light and darker dark edges.
+    QPalette generateShadeBorderPalette(const QPalette &pal) const;
+    /// Returns \a pal with lighter light, darker middle and lighter dark edges.
+    QPalette generateWinBorderPalette(const QPalette &pal) const;
+
+    /// Returns the theme brush \a name, or \a name + "Disabled" unless \a enabled; no brush when
+    /// the theme has none of that name.
+    static QBrush getBrush(QString name, bool enabled);
+    /// Returns the theme colour \a name, or \a name + "Disabled" unless \a enabled; an invalid
+    /// colour when the theme has none of that name.
+    static QColor getColor(QString name, bool enabled);
+    /// Returns the brush of card borders. It is resolved once for the process.
+    static const QBrush &getBorderBrush(bool enabled);
+    /// Returns the brush of grooves. It is resolved once for the process.
+    const QBrush &grooveBackgroundBrush(bool enabled) const;
+
+    /// Classifies the face of a button: 0 at rest, 1 checked or pressed, 2 hovered.
+    int getButtonBackgroundState(const QStyleOption &opt) const;
+    /// Classifies a tab: 0 selected, 1 at rest or disabled, 2 hovered or focused by keyboard.
+    int getTabBackgroundState(const QStyleOptionTab &opt) const;
+
+    /// Tells whether Alt has been pressed in the window of \a w.
+    bool hasSeenAlt(const QWidget *w) const;
+    /// Tells whether Alt is held.
+    bool altDown() const;
+
+    /// Returns the brushes of the button, or of the button-like part of the input, that \a opt
+    /// describes. The names of the brushes are composed from the state of \a opt and the dynamic
+    /// properties of \a widget, which may be null.
+    static ButtonBrushes buttonBrushes(const QStyleOption *opt, const QWidget *widget);
+
+public Q_SLOTS:
+    /// Sets the style's palette. An equal palette changes nothing.
+    void setPalette(const QPalette &palette);
+
+Q_SIGNALS:
+    /// Tells that the style's palette has become \a palette.
+    void paletteChanged(const QPalette &palette);
+
+private:
+    QPalette m_palette;
+    QBrush m_expanderHeaderBrush;
+    QBrush m_backgroundBrush;
+    bool m_altDown = false;
+    QList<const QWidget *> m_seenAlt;
+};
+
+} // namespace TARN
