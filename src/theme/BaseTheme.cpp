@@ -1,0 +1,112 @@
+#include "theme/BaseTheme.h"
+
+#include "readers/QPaletteReader.h"
+#include "readers/ThemeConfigurationReader.h"
+#include "readers/XmlFile.h"
+#include "resources/ProcessCache.h"
+#include "resources/ThemeResources.h"
+#include "resources/VariantMap.h"
+#include "theme/CleanSwitch.h"
+#include "theme/StyleInstallation.h"
+#include "theme/ThemeFootprint.h"
+
+#include <QtCore/QDebug>
+#include <QtWidgets/QApplication>
+
+namespace TARN {
+
+namespace {
+
+void publishVariables(QApplication &app, const ThemeConfigurationReader &configuration)
+{
+    const QVariantMap variables{
+        {ThemeResources::getColorsVarPrefix(), fillQVariantMap(configuration.getColorsMap())},
+        {ThemeResources::getInternalColorsVarPrefix(),
+         fillQVariantMap(configuration.getInternalColorsMap())},
+        {ThemeResources::getBrushesVarPrefix(), fillQVariantMap(configuration.getBrushesMap())},
+        {ThemeResources::getInternalBrushesVarPrefix(),
+         fillQVariantMap(configuration.getInternalBrushesMap())},
+        {ThemeResources::getOpacitiesVarPrefix(), fillQVariantMap(configuration.getOpacitiesMap())},
+        {ThemeResources::getCornerRadiusVarPrefix(),
+         fillQVariantMap(configuration.getCornerRadiusMap())},
+        {ThemeResources::getFontsVarPrefix(), configuration.getFont().toVariantMap()},
+    };
+    app.setProperty(ThemeResources::getThemeVariablePropertyName(), variables);
+}
+
+void addImages(ThemeFootprint &footprint, const QString &directory, const QString &name)
+{
+    const QString imageThemes = directory + QLatin1String("/Images/");
+    const QString images = imageThemes + name;
+    const QString icons = images + QLatin1String("/scalable");
+    footprint.addIconTheme(imageThemes, name);
+    footprint.addResourceFiles(icons);
+    footprint.addSearchPath(ThemeResources::iconsPrefix(), icons);
+    footprint.addSearchPath(ThemeResources::iconsPrefix(), QStringLiteral(":/Icons"));
+    // Spelled like this the fallback is not the compiled-in icon set; a theme's own resource file
+    // may provide it.
+    footprint.addFallbackIcons(QStringLiteral(":/icons"));
+    footprint.addSearchPath(ThemeResources::cursorsPrefix(), images + QLatin1String("/Cursors"));
+    footprint.addSearchPath(ThemeResources::cursorsPrefix(), QStringLiteral(":/Cursors"));
+    footprint.addSearchPath(ThemeResources::themeResourcesPrefix(),
+                            images + QLatin1String("/theme_resources"));
+}
+
+} // namespace
+
+BaseTheme::BaseTheme(const QString &directory)
+    : m_directory(directory)
+    , m_settings(directory + QLatin1String("/theme.xml"))
+{
+}
+
+QString BaseTheme::getName() const
+{
+    return m_settings.getName();
+}
+
+void BaseTheme::customize(QApplication *app)
+{
+    if (!app) {
+        return;
+    }
+    if (m_settings.getStatus() != ReadFine) {
+        qDebug() << "Error reading theme configuration file "
+                 << m_directory + QLatin1String("/theme.xml");
+        return;
+    }
+
+    ThemeFootprint &footprint = ThemeFootprint::of(*app);
+    CleanSwitch cleanSwitch(*app, footprint);
+
+    footprint.addFonts(m_directory + QLatin1String("/Fonts"));
+    cleanSwitch.fontsAdded();
+
+    const ThemeConfigurationReader configuration(m_directory + QLatin1String("/config.xml"));
+    if (configuration.getStatus() != ReadFine) {
+        // Theme authors know this message by the name it gives.
+        qDebug() << "Error reading theme palette file: "
+                 << m_directory + QLatin1String("/palette.xml");
+    }
+    const QString mappingPath = m_directory + QLatin1String("/qpaletteMapping.xml");
+    const QPaletteReader mapping(mappingPath, configuration.getBrushesMap(),
+                                 configuration.getColorsMap(), cleanSwitch.basePalette());
+
+    publishVariables(*app, configuration);
+    cleanSwitch.variablesPublished();
+
+    const QFont font = configuration.getFont().getFont(ThemeFont::Base);
+    if (!qEnvironmentVariableIsSet("TARN_USE_NATIVE_STYLE")) {
+        if (mapping.getStatus() != ReadFine) {
+            qDebug() << "Error reading theme QPalette mapping file: " << mappingPath;
+        }
+        cleanSwitch.replaceStyleSheet(font);
+        installStyle(*app, mapping.deserialize());
+    }
+    QApplication::setFont(font);
+
+    addImages(footprint, m_directory, getName());
+    cleanSwitch.finish();
+}
+
+} // namespace TARN

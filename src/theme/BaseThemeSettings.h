@@ -1,0 +1,31 @@
+#pragma once
+
+#include <mox_common_theme_export.h>
+
+#include <QtCore/QString>
+#include <QtXml/QDomDocument>
+#include <QtXml/QDomElement>
+
+namespace TARN {
+
+/// The description file of a theme, "theme.xml": an element "theme" with a child "name".
+class MOX_COMMON_THEME_EXPORT BaseThemeSettings
+{
+public:
+    /// Reads the description file at \a path. Never fails; getStatus() tells how it went.
+    explicit BaseThemeSettings(const QString &path);
+
+    /// Returns the theme's display name; empty when the file has none.
+    QString getName() const;
+
+    /// Returns 0 when the file was read without fault, 1 when it could not be opened, 2 when it
+    /// is not well-formed.
+    int getStatus() const;
+
+private:
+    QDomDocument m_document;
+    QDomElement m_root;
+    int m_status;
+};
+
+} // namespace TARN

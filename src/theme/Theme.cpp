@@ -1,0 +1,7 @@
+#include "theme/Theme.h"
+
+namespace TARN {
+
+Theme::~Theme() = default;
+
+} // namespace TARN
