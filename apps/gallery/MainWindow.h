@@ -1,0 +1,60 @@
+#pragma once
+
+#include <QtCore/QVector>
+#include <QtWidgets/QMainWindow>
+
+class QLabel;
+class QStackedWidget;
+class QToolButton;
+
+namespace TARN {
+class ThemeQApplication;
+}
+
+namespace TARN::Gallery {
+
+class PageList;
+class ThemeMenu;
+
+/// The gallery's window: the list of pages beside the current page.
+class MainWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    /// Creates the window for \a application, to which the theme \a themeName has been applied.
+    MainWindow(ThemeQApplication &application, const QString &themeName);
+
+    /// Shows the page at \a index of the page table.
+    void showPage(int index);
+
+private:
+    void createMenus();
+    void createToolBar();
+    QAction *addWindowAction(const QString &icon, const QString &text,
+                             const QKeySequence &shortcut);
+
+    void displayPage(int index);
+    QWidget *createPageView(int index);
+    void switchTheme(const QString &name);
+    void displayTheme(const QString &name);
+    void setRightToLeft(bool rightToLeft);
+    void showAbout();
+
+    ThemeQApplication &m_application;
+    QString m_themeName;
+
+    PageList *m_list;
+    QLabel *m_title;
+    QStackedWidget *m_stack;
+    QVector<QWidget *> m_pageViews; // null until a page is first shown
+
+    ThemeMenu *m_themeMenu;
+    QToolButton *m_themeButton;
+    QLabel *m_themeLabel;
+    QAction *m_previous = nullptr;
+    QAction *m_next = nullptr;
+    QAction *m_rightToLeft = nullptr;
+};
+
+} // namespace TARN::Gallery

@@ -1,0 +1,116 @@
+#include "Arrangement.h"
+#include "Literals.h"
+#include "Pages.h"
+#include "SamplePage.h"
+#include "Symbols.h"
+
+#include <QtWidgets/QMenu>
+#include <QtWidgets/QToolButton>
+
+namespace TARN::Gallery {
+
+namespace {
+
+QToolButton *toolButton(const QString &icon, const QString &text, Qt::ToolButtonStyle style)
+{
+    auto *button = new QToolButton;
+    button->setIcon(symbol(icon));
+    button->setText(text);
+    button->setToolTip(text);
+    button->setToolButtonStyle(style);
+    return button;
+}
+
+QToolButton *popupButton(const QString &text, QToolButton::ToolButtonPopupMode mode)
+{
+    QToolButton *button = toolButton("ruler"_s, text, Qt::ToolButtonTextBesideIcon);
+    auto *menu = new QMenu(button);
+    menu->addAction(symbol("ruler"_s), "Distance"_s);
+    menu->addAction(symbol("angle"_s), "Angle"_s);
+    menu->addAction(symbol("area"_s), "Area"_s);
+    button->setMenu(menu);
+    button->setPopupMode(mode);
+    return button;
+}
+
+QToolButton *checked(QToolButton *button)
+{
+    button->setCheckable(true);
+    button->setChecked(true);
+    return button;
+}
+
+QToolButton *arrowButton(Qt::ArrowType arrow)
+{
+    auto *button = new QToolButton;
+    button->setArrowType(arrow);
+    return button;
+}
+
+QWidget *styles()
+{
+    return row({toolButton("open"_s, "Open"_s, Qt::ToolButtonIconOnly),
+                toolButton("open"_s, "Open"_s, Qt::ToolButtonTextOnly),
+                toolButton("open"_s, "Open"_s, Qt::ToolButtonTextBesideIcon),
+                toolButton("open"_s, "Open"_s, Qt::ToolButtonTextUnderIcon)});
+}
+
+QWidget *popupModes()
+{
+    return row({popupButton("Delayed"_s, QToolButton::DelayedPopup),
+                popupButton("Menu button"_s, QToolButton::MenuButtonPopup),
+                popupButton("Instant"_s, QToolButton::InstantPopup)});
+}
+
+QWidget *checkables()
+{
+    QToolButton *off = toolButton("crop"_s, "Crop"_s, Qt::ToolButtonIconOnly);
+    off->setCheckable(true);
+    return row({off, checked(toolButton("pen"_s, "Draw"_s, Qt::ToolButtonIconOnly)),
+                checked(toolButton("layers"_s, "Layers"_s, Qt::ToolButtonTextBesideIcon))});
+}
+
+QWidget *autoRaised()
+{
+    QList<QWidget *> buttons;
+    for (const QString &name : {"zoom-in"_s, "zoom-out"_s, "zoom-fit"_s, "rotate"_s}) {
+        QToolButton *button = toolButton(name, name, Qt::ToolButtonIconOnly);
+        button->setAutoRaise(true);
+        buttons.append(button);
+    }
+    checked(qobject_cast<QToolButton *>(buttons.constLast()));
+    return row(buttons);
+}
+
+QWidget *arrows()
+{
+    return row({arrowButton(Qt::LeftArrow), arrowButton(Qt::UpArrow), arrowButton(Qt::DownArrow),
+                arrowButton(Qt::RightArrow)});
+}
+
+QWidget *largeIcons()
+{
+    QToolButton *beside = toolButton("camera"_s, "Acquire"_s, Qt::ToolButtonTextBesideIcon);
+    QToolButton *under = toolButton("chart"_s, "Histogram"_s, Qt::ToolButtonTextUnderIcon);
+    for (QToolButton *button : {beside, under}) {
+        button->setIconSize({32, 32});
+    }
+    return row({beside, under});
+}
+
+} // namespace
+
+QWidget *createToolButtonsPage()
+{
+    auto *page = new SamplePage;
+    page->addSample("Icon only, text only, text beside and under the icon"_s, styles);
+    page->addSample("Popup modes"_s, popupModes);
+    page->addSample("Checkable"_s, checkables);
+    page->addSample("Auto-raised"_s, autoRaised);
+    page->addSample("Arrows"_s, arrows);
+    page->addSample("Large icons"_s, largeIcons);
+    page->finish();
+    return page;
+}
+
+} // namespace TARN::Gallery
