@@ -4,17 +4,13 @@
 #include <QtTest/QtTest>
 
 #include <support/MessageRecorder.h>
+#include <support/Text.h>
 #include <support/ThemeRepository.h>
 
 using TARN::ThemeConfigurationReader;
 using TARN::ThemeFont;
 
 namespace {
-
-QString text(const char *latin1)
-{
-    return QString::fromLatin1(latin1);
-}
 
 template <typename T>
 QStringList names(const QMap<QString, T> &map)

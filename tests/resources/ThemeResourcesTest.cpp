@@ -2,18 +2,10 @@
 
 #include <QtTest/QtTest>
 
+#include <support/Text.h>
 #include <support/Variables.h>
 
 using TARN::ThemeResources;
-
-namespace {
-
-QString text(const char *latin1)
-{
-    return QString::fromLatin1(latin1);
-}
-
-} // namespace
 
 /// Look-up of theme variables by path, by name and by value.
 class ThemeResourcesTest : public QObject

@@ -4,16 +4,12 @@
 #include <QtWidgets/QStyleFactory>
 #include <QtWidgets/QStyleOption>
 
+#include <support/Text.h>
 #include <support/Variables.h>
 
 using TARN::BaseStyle;
 
 namespace {
-
-QString text(const char *latin1)
-{
-    return QString::fromLatin1(latin1);
-}
 
 constexpr QStyle::State enabled = QStyle::State_Enabled;
 constexpr QStyle::State hovered = QStyle::State_Enabled | QStyle::State_MouseOver;

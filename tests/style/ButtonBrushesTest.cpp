@@ -15,6 +15,8 @@
 #include <QtWidgets/QTabBar>
 #include <QtWidgets/QToolButton>
 
+#include <support/Text.h>
+
 using TARN::BaseStyle;
 
 namespace {
@@ -24,11 +26,6 @@ constexpr QStyle::State active = QStyle::State_Enabled | QStyle::State_Active;
 constexpr QStyle::State hovered = QStyle::State_Enabled | QStyle::State_MouseOver;
 constexpr QStyle::State sunken = QStyle::State_Enabled | QStyle::State_Sunken;
 constexpr QStyle::State on = QStyle::State_Enabled | QStyle::State_On;
-
-QString text(const char *latin1)
-{
-    return QString::fromLatin1(latin1);
-}
 
 QStyleOptionButton pushButton(QStyle::State state, QStyleOptionButton::ButtonFeatures features = {})
 {

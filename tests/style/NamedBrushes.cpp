@@ -2,16 +2,8 @@
 
 #include <QtCore/QStringList>
 
+#include <support/Text.h>
 #include <support/Variables.h>
-
-namespace {
-
-QString text(const char *latin1)
-{
-    return QString::fromLatin1(latin1);
-}
-
-} // namespace
 
 NamedBrushes::NamedBrushes()
 {

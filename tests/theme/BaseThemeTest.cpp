@@ -9,6 +9,7 @@
 #include <QtWidgets/QToolTip>
 
 #include <support/MessageRecorder.h>
+#include <support/Text.h>
 #include <support/ThemeRepository.h>
 
 using TARN::BaseStyle;
@@ -16,11 +17,6 @@ using TARN::BaseTheme;
 using TARN::ThemeColorHelper;
 
 namespace {
-
-QString text(const char *latin1)
-{
-    return QString::fromLatin1(latin1);
-}
 
 /// Returns the theme's style below the stylesheet style of the application; null when none is
 /// installed.

@@ -4,19 +4,11 @@
 #include <QtTest/QtTest>
 
 #include <support/MessageRecorder.h>
+#include <support/Text.h>
 #include <support/ThemeRepository.h>
 
 using TARN::Theme;
 using TARN::ThemeFactory;
-
-namespace {
-
-QString text(const char *latin1)
-{
-    return QString::fromLatin1(latin1);
-}
-
-} // namespace
 
 /// The registry of the themes in a repository.
 class ThemeFactoryTest : public QObject

@@ -5,6 +5,7 @@
 #include <QtTest/QtTest>
 
 #include <support/MessageRecorder.h>
+#include <support/Text.h>
 #include <support/ThemeRepository.h>
 
 using TARN::Theme;
@@ -12,11 +13,6 @@ using TARN::ThemeFactory;
 using TARN::ThemeQApplication;
 
 namespace {
-
-QString text(const char *latin1)
-{
-    return QString::fromLatin1(latin1);
-}
 
 /// A command line that lives as long as the application object made from it.
 class CommandLine

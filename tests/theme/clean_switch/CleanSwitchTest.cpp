@@ -15,6 +15,7 @@
 #include <QtWidgets/QStyledItemDelegate>
 
 #include <malloc.h>
+#include <support/Text.h>
 #include <support/ThemeRepository.h>
 
 using TARN::BaseStyle;
@@ -23,11 +24,6 @@ using TARN::ThemeColorHelper;
 using TARN::ThemeResources;
 
 namespace {
-
-QString text(const char *latin1)
-{
-    return QString::fromLatin1(latin1);
-}
 
 /// A theme that differs from the others in every value that is kept, in its font and in its
 /// images.

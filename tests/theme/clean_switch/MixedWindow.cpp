@@ -32,15 +32,12 @@
 #include <QtWidgets/QToolButton>
 #include <QtWidgets/QTreeView>
 
+#include <support/Text.h>
+
 using TARN::BaseStyle;
 using TARN::ThemeResources;
 
 namespace {
-
-QString text(const char *latin1)
-{
-    return QString::fromLatin1(latin1);
-}
 
 /// Shows the theme's values as a component of an application's own would: asked for by name on
 /// every paint.
