@@ -22,9 +22,13 @@ bool isPlainUtf8(const QByteArray &data)
     if (!startsLikeMarkup) {
         return false;
     }
-    const QByteArray declaration =
-        data.startsWith("<?xml") ? data.left(data.indexOf("?>")) : QByteArray();
-    return !declaration.contains("encoding") || declaration.contains("encoding=\"UTF-8\"");
+    if (!data.startsWith("<?xml")) {
+        return true;
+    }
+    const int end = data.indexOf("?>");
+    const QByteArray declaration = data.left(end);
+    return end >= 0 &&
+           (!declaration.contains("encoding") || declaration.contains("encoding=\"UTF-8\""));
 }
 
 QT_WARNING_PUSH

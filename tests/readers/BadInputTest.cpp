@@ -335,6 +335,11 @@ private Q_SLOTS:
         QTest::newRow("UTF-8, declared")
             << document("<?xml version='1.0' encoding='utf-8'?>").toUtf8();
         QTest::newRow("Latin 1") << document(latin).toLatin1();
+        QTest::newRow("Latin 1, declared behind many blanks")
+            << document(latin)
+                   .replace(QLatin1String(" encoding"),
+                            QString(300, QLatin1Char(' ')) + QLatin1String("encoding"))
+                   .toLatin1();
         QTest::newRow("UTF-16, little end, marked")
             << encoded("UTF-16LE", byteOrderMark + document(plain));
         QTest::newRow("UTF-16, big end, marked")
