@@ -4,18 +4,23 @@
 
 namespace TARN::Gallery {
 
+namespace {
+
+using Name = QLatin1String;
+
+constexpr Name buttons("Buttons");
+constexpr Name inputs("Inputs");
+constexpr Name ranges("Ranges");
+constexpr Name displays("Displays");
+constexpr Name views("Item views");
+constexpr Name containers("Containers");
+constexpr Name windows("Windows");
+constexpr Name dialogs("Dialogs");
+
+} // namespace
+
 const QVector<Page> &pages()
 {
-    using Name = QLatin1String;
-    static const Name buttons("Buttons");
-    static const Name inputs("Inputs");
-    static const Name ranges("Ranges");
-    static const Name displays("Displays");
-    static const Name views("Item views");
-    static const Name containers("Containers");
-    static const Name windows("Windows");
-    static const Name dialogs("Dialogs");
-
     static const QVector<Page> table = {
         {Name("push-buttons"), Name("Push buttons"), buttons, createPushButtonsPage},
         {Name("tool-buttons"), Name("Tool buttons"), buttons, createToolButtonsPage},
