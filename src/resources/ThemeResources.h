@@ -3,12 +3,16 @@
 #include <mox_common_theme_export.h>
 
 #include <QtCore/QRegularExpression>
+#include <QtCore/QSize>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 #include <QtCore/QVariant>
 #include <QtGui/QBrush>
 #include <QtGui/QColor>
+#include <QtGui/QCursor>
 #include <QtGui/QFont>
+#include <QtGui/QIcon>
+#include <QtGui/QPixmap>
 
 namespace TARN {
 
@@ -84,6 +88,32 @@ public:
     /// a number for an opacity or a corner radius, nothing for a brush. A placeholder that names
     /// no variable stays as it stands.
     static QString customizeStyleSheet(const QString &styleSheet);
+
+    /// \name Images by their name
+    ///
+    /// Applying a theme sets up the QDir search paths "icons" and "cursors": the theme's own
+    /// folder, then the compiled-in set. The first folder that holds a file of the name, with
+    /// the extension of any image format that Qt can read or as the name stands, gives the image.
+    ///
+    /// Each call searches and reads anew; who paints often keeps the result. A QGuiApplication has
+    /// to exist. An image of more than 2^28 pixels is only read at a given size.
+    /// \{
+
+    /// Returns the icon \a name ("action.copy"); a null icon when there is none. Icons of the icon
+    /// theme (QIcon::fromTheme()) are not looked at.
+    static QIcon getIcon(const QString &name);
+    /// Returns the names, without their extensions, of the icon files whose file names contain a
+    /// match of \a filter: each name once, the theme's own before the compiled-in ones, in no
+    /// particular order otherwise. Files with "Brush.svg" in their name are left out.
+    static QStringList getIcons(const QRegularExpression &filter);
+    /// Returns the icon \a name rendered at \a size, or at its own size when \a size is invalid; a
+    /// null pixmap when there is none or it can't be read.
+    static QPixmap getPixmap(const QString &name, const QSize &size);
+    /// Returns the cursor \a name ("pick.plus"). Of a file with the extension "cur", exactly, it
+    /// has the hotspot of the file's first image; of any other its hotspot is in the middle. A
+    /// name that is not found gives the cursor that Qt makes of a null pixmap: the arrow.
+    static QCursor getCursor(const QString &name);
+    /// \}
 };
 
 } // namespace TARN

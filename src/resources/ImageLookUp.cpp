@@ -1,0 +1,175 @@
+#include "resources/ThemeResources.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QFile>
+#include <QtCore/QFileInfo>
+#include <QtCore/QPoint>
+#include <QtGui/QImageReader>
+
+#include <array>
+
+namespace TARN {
+
+namespace {
+
+/// Returns the path of the file \a name in the first of \a directories that has it, as it stands
+/// or with one of \a extensions appended; a null string when none has.
+QString findFilePath(const QString &name, const QStringList &directories,
+                     const QStringList &extensions)
+{
+    if (name.isEmpty()) {
+        return {};
+    }
+    const QString relativePath = QDir::fromNativeSeparators(name);
+    for (const QString &directory : directories) {
+        QString candidate = QDir::fromNativeSeparators(directory);
+        if (!candidate.endsWith(QLatin1Char('/')) && !name.startsWith(QLatin1Char('/'))) {
+            candidate += QLatin1Char('/');
+        }
+        candidate += relativePath;
+        if (QFile::exists(candidate)) {
+            return candidate;
+        }
+        for (const QString &extension : extensions) {
+            QString extended = candidate + QLatin1Char('.') + extension;
+            if (QFile::exists(extended)) {
+                return extended;
+            }
+        }
+    }
+    return {};
+}
+
+QStringList imageExtensions()
+{
+    QStringList extensions;
+    const QList<QByteArray> formats = QImageReader::supportedImageFormats();
+    extensions.reserve(formats.size());
+    for (const QByteArray &format : formats) {
+        extensions.append(QString::fromLatin1(format));
+    }
+    return extensions;
+}
+
+QString findImagePath(const QString &name, const QString &searchPathPrefix)
+{
+    return findFilePath(name, QDir::searchPaths(searchPathPrefix), imageExtensions());
+}
+
+QString findIconPath(const QString &name)
+{
+    return findImagePath(name, ThemeResources::iconsPrefix());
+}
+
+/// Tells whether an image of \a size is none that anybody drew: it would take more than a gigabyte.
+bool isTooLarge(const QSize &size)
+{
+    constexpr qint64 mostPixels = 1 << 28;
+    return qint64(size.width()) * size.height() > mostPixels;
+}
+
+/// Returns the image at \a path, at its own size when \a scaledSize is invalid. QPixmap's
+/// constructor would give an earlier content of the file when it was replaced within a second.
+QPixmap readPixmap(const QString &path, const QSize &scaledSize)
+{
+    if (!QFile::exists(path)) {
+        return {};
+    }
+    QImageReader reader(path);
+    if (!scaledSize.isValid() && isTooLarge(reader.size())) {
+        return {};
+    }
+    reader.setScaledSize(scaledSize);
+    return QPixmap::fromImageReader(&reader);
+}
+
+/// Reads the two-byte values of a cursor file's header, one after the other.
+class CursorHeaderReader
+{
+public:
+    explicit CursorHeaderReader(QFile &file)
+        : m_file(file)
+    {
+    }
+
+    /// Both bytes count as signed ones, so that a low byte from 0x80 makes the value negative. At
+    /// the end of the file what has been read before stands in for what is missing.
+    int next()
+    {
+        m_file.read(m_bytes.data(), sizeof(m_bytes));
+        // Multiplied, since shifting a negative value to the left is undefined.
+        return (static_cast<qint8>(m_bytes[1]) * 256) | static_cast<qint8>(m_bytes[0]);
+    }
+
+private:
+    QFile &m_file;
+    std::array<char, 2> m_bytes{};
+};
+
+QPoint extractHotspotFromCurFile(const QString &path)
+{
+    constexpr int cursorType = 2;
+    constexpr int sizeAndColorBytes = 4;
+
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        return {};
+    }
+    CursorHeaderReader header(file);
+    header.next(); // reserved
+    if (header.next() != cursorType) {
+        return {};
+    }
+    header.next(); // the number of images
+    file.skip(sizeAndColorBytes);
+    const int x = header.next();
+    const int y = header.next();
+    return {x, y};
+}
+
+} // namespace
+
+QIcon ThemeResources::getIcon(const QString &name)
+{
+    const QString path = findIconPath(name);
+    return path.isEmpty() ? QIcon() : QIcon(path);
+}
+
+QStringList ThemeResources::getIcons(const QRegularExpression &filter)
+{
+    QStringList names;
+    const QStringList directories = QDir::searchPaths(iconsPrefix());
+    for (const QString &directory : directories) {
+        const QStringList fileNames = QDir(directory).entryList(QDir::Files, QDir::NoSort);
+        for (const QString &fileName : fileNames) {
+            if (!fileName.contains(filter) || fileName.contains(QLatin1String("Brush.svg"))) {
+                continue;
+            }
+            names.append(QFileInfo(fileName).completeBaseName());
+        }
+    }
+    names.removeDuplicates();
+    return names;
+}
+
+QPixmap ThemeResources::getPixmap(const QString &name, const QSize &size)
+{
+    return readPixmap(findIconPath(name), size);
+}
+
+QCursor ThemeResources::getCursor(const QString &name)
+{
+    const QString path = findImagePath(name, cursorsPrefix());
+    const QPixmap pixmap = readPixmap(path, QSize());
+    if (pixmap.isNull()) {
+        // The same cursor as Qt makes of a null pixmap, without the warning.
+        return {};
+    }
+    if (QFileInfo(path).suffix() != QLatin1String("cur")) {
+        return {pixmap, -1, -1};
+    }
+    const QPoint hotspot = extractHotspotFromCurFile(path);
+    return {pixmap, hotspot.x(), hotspot.y()};
+}
+
+} // namespace TARN
