@@ -15,7 +15,7 @@
 #include <QtWidgets/QStyle>
 
 #include <algorithm>
-#include <cmath>
+#include <support/Contrast.h>
 
 using TARN::BaseThemeSettings;
 using TARN::QPaletteReader;
@@ -66,21 +66,10 @@ QColor painted(const QColor &color, const QColor &ground)
                             blend(color.blueF(), ground.blueF()));
 }
 
-double relativeLuminance(const QColor &color)
-{
-    const auto linear = [](double channel) {
-        return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
-           0.0722 * linear(color.blueF());
-}
-
 /// Returns the contrast ratio (1 to 21) of \a text on the opaque \a ground.
 double contrast(const QColor &text, const QColor &ground)
 {
-    const double first = relativeLuminance(painted(text, ground));
-    const double second = relativeLuminance(ground);
-    return (qMax(first, second) + 0.05) / (qMin(first, second) + 0.05);
+    return contrastRatio(painted(text, ground), ground);
 }
 
 /// Returns the contrast of a \a text role on a \a ground role, which lies on the base.
