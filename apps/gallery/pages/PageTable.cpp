@@ -44,6 +44,8 @@ const QVector<Page> &pages()
         {Name("tips-and-status"), Name("Tips and status"), displays, createTipsAndStatusPage},
         {Name("documents"), Name("Documents and history"), displays, createDocumentsPage},
         {Name("graphics-view"), Name("Graphics view"), displays, createGraphicsViewPage},
+        {Name("icons"), Name("Icons"), displays, createIconsPage},
+        {Name("cursors"), Name("Cursors"), displays, createCursorsPage},
 
         {Name("lists"), Name("Lists"), views, createListsPage},
         {Name("icon-view"), Name("Icon view"), views, createIconViewPage},

@@ -28,6 +28,8 @@ QWidget *createFramesPage();
 QWidget *createTipsAndStatusPage();
 QWidget *createDocumentsPage();
 QWidget *createGraphicsViewPage();
+QWidget *createIconsPage();
+QWidget *createCursorsPage();
 
 QWidget *createListsPage();
 QWidget *createIconViewPage();
