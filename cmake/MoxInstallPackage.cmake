@@ -22,6 +22,7 @@ foreach(header IN ITEMS
     resources/ThemeColorHelper.h
     resources/ThemeResources.h
     style/BaseStyle.h
+    style/ComboBoxDefaultItemDelegate.h
     style/ProxyStyle_p.h
     theme/BaseTheme.h
     theme/BaseThemeSettings.h
