@@ -1,4 +1,5 @@
 #include "style/BaseStyle.h"
+#include "style/Properties.h"
 
 #include <QtCore/QStringBuilder>
 #include <QtGui/QCursor>
@@ -14,16 +15,6 @@
 namespace TARN {
 
 namespace {
-
-bool isSet(const QObject *object, const char *property)
-{
-    return object && object->property(property).toBool();
-}
-
-bool isA(const QObject *object, const char *className)
-{
-    return object && object->inherits(className);
-}
 
 /// Tells whether the list of \a comboBox is open. QComboBox::view() would create the list.
 bool isPopupVisible(const QComboBox &comboBox)
