@@ -2,6 +2,7 @@
 
 #include "resources/ProcessCache.h"
 #include "resources/ThemeResources.h"
+#include "style/Metrics.h"
 
 #include <QtWidgets/QStyleOption>
 #include <QtWidgets/QStyleOptionTab>
@@ -71,6 +72,22 @@ QPalette BaseStyle::standardPalette() const
 void BaseStyle::polish(QPalette &pal)
 {
     pal = m_palette;
+}
+
+int BaseStyle::pixelMetric(PixelMetric metric, const QStyleOption *option,
+                           const QWidget *widget) const
+{
+    const std::optional<int> own = pixelMetricOf(metric, widget);
+    return own ? *own : QProxyStyle::pixelMetric(metric, option, widget);
+}
+
+int BaseStyle::styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
+                         QStyleHintReturn *returnData) const
+{
+    if (const std::optional<int> own = styleHintOf(hint, option, returnData)) {
+        return *own;
+    }
+    return QProxyStyle::styleHint(hint, option, widget, returnData);
 }
 
 const QBrush &BaseStyle::lightOutlineBrush(const QPalette &pal) const

@@ -49,6 +49,12 @@ public:
     /// Replaces \a pal by the style's palette.
     void polish(QPalette &pal) override;
 
+    int pixelMetric(PixelMetric metric, const QStyleOption *option = nullptr,
+                    const QWidget *widget = nullptr) const override;
+    int styleHint(StyleHint hint, const QStyleOption *option = nullptr,
+                  const QWidget *widget = nullptr,
+                  QStyleHintReturn *returnData = nullptr) const override;
+
     /// Returns the brush of light outlines in \a pal. The reference lives as long as \a pal.
     const QBrush &lightOutlineBrush(const QPalette &pal) const;
     /// Returns \a pal with lighter light and darker dark edges.

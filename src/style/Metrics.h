@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QtWidgets/QStyle>
+
+#include <optional>
+
+namespace TARN {
+
+/// Returns the style's own value of \a metric, in device-independent pixels; nothing when the
+/// base style's is to hold.
+std::optional<int> pixelMetricOf(int metric, const QWidget *widget);
+
+/// Returns the style's own answer to \a hint; nothing when the base style's is to hold.
+std::optional<int> styleHintOf(QStyle::StyleHint hint, const QStyleOption *option,
+                               QStyleHintReturn *returnData);
+
+} // namespace TARN
