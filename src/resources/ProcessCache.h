@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <utility>
 
 namespace TARN {
@@ -51,6 +52,26 @@ public:
 private:
     Compute m_compute;
     T m_value;
+};
+
+/// A kept value that is computed of what its first user knows. To be used as ProcessCached.
+template <typename T>
+class ProcessKept : private ProcessCache
+{
+public:
+    /// Returns the kept value; on the first use it is what \a compute returns.
+    template <typename Compute>
+    const T &value(Compute compute)
+    {
+        if (!m_value || m_stale) {
+            m_value = compute();
+            m_stale = false;
+        }
+        return *m_value;
+    }
+
+private:
+    std::optional<T> m_value;
 };
 
 } // namespace TARN

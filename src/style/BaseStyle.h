@@ -55,6 +55,18 @@ public:
                   const QWidget *widget = nullptr,
                   QStyleHintReturn *returnData = nullptr) const override;
 
+    /// Returns the theme's icon for \a sp. For SP_CustomBase that is the icon which the property
+    /// "highlightedIcon" of \a widget names, in the theme's main colour.
+    QIcon standardIcon(StandardPixmap sp, const QStyleOption *option = nullptr,
+                       const QWidget *widget = nullptr) const override;
+    QPixmap standardPixmap(StandardPixmap sp, const QStyleOption *option,
+                           const QWidget *widget = nullptr) const override;
+    /// Dims the disabled picture of a label; returns any other \a pixmap as it is.
+    QPixmap generatedIconPixmap(QIcon::Mode mode, const QPixmap &pixmap,
+                                const QStyleOption *option) const override;
+    /// Returns the icon that \a xpm shows in the text colours of \a palette.
+    QIcon generateToolBarExpandButtonIcon(const char *const *xpm, const QPalette &palette) const;
+
     /// Returns the brush of light outlines in \a pal. The reference lives as long as \a pal.
     const QBrush &lightOutlineBrush(const QPalette &pal) const;
     /// Returns \a pal with lighter light and darker dark edges.
