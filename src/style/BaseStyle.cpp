@@ -2,7 +2,12 @@
 
 #include "resources/ProcessCache.h"
 #include "resources/ThemeResources.h"
+#include "style/ComboBoxDefaultItemDelegate.h"
+#include "style/Geometry.h"
 #include "style/Metrics.h"
+#include "style/Mnemonics.h"
+#include "style/Polishing.h"
+#include "style/families/ItemViews.h"
 
 #include <QtWidgets/QStyleOption>
 #include <QtWidgets/QStyleOptionTab>
@@ -37,6 +42,19 @@ const QBrush &keptBrush(bool enabled)
     return enabled ? enabledBrush.value() : disabledBrush.value();
 }
 
+/// The combo boxes that use a delegate of \a style get one of their own.
+void replaceDelegates(const BaseStyle &style)
+{
+    const auto delegates =
+        style.findChildren<ComboBoxDefaultItemDelegate *>(QString(), Qt::FindDirectChildrenOnly);
+    for (const ComboBoxDefaultItemDelegate *delegate : delegates) {
+        QComboBox *combo = delegate->comboBox();
+        if (combo && combo->itemDelegate() == delegate) {
+            combo->setItemDelegate(new ComboBoxDefaultItemDelegate(combo, combo));
+        }
+    }
+}
+
 constexpr char cardBorder[] = "CardBorderBrush";
 constexpr char grooveBackground[] = "GrooveBackgroundBrush";
 
@@ -48,6 +66,11 @@ BaseStyle::BaseStyle()
     , m_expanderHeaderBrush(getBrush(QStringLiteral("ExpanderHeaderBrush"), true))
     , m_backgroundBrush(getBrush(QStringLiteral("BackgroundBrush"), true))
 {
+}
+
+BaseStyle::~BaseStyle()
+{
+    replaceDelegates(*this);
 }
 
 const QPalette &BaseStyle::getPalette() const
@@ -74,6 +97,28 @@ void BaseStyle::polish(QPalette &pal)
     pal = m_palette;
 }
 
+void BaseStyle::polish(QWidget *widget)
+{
+    QProxyStyle::polish(widget);
+    polishWidget(*this, *widget);
+}
+
+void BaseStyle::unpolish(QWidget *widget)
+{
+    QProxyStyle::unpolish(widget);
+    unpolishWidget(*widget);
+}
+
+void BaseStyle::polish(QApplication *application)
+{
+    QProxyStyle::polish(application);
+}
+
+void BaseStyle::unpolish(QApplication *application)
+{
+    QProxyStyle::unpolish(application);
+}
+
 int BaseStyle::pixelMetric(PixelMetric metric, const QStyleOption *option,
                            const QWidget *widget) const
 {
@@ -87,7 +132,44 @@ int BaseStyle::styleHint(StyleHint hint, const QStyleOption *option, const QWidg
     if (const std::optional<int> own = styleHintOf(hint, option, returnData)) {
         return *own;
     }
-    return QProxyStyle::styleHint(hint, option, widget, returnData);
+    const int answer = QProxyStyle::styleHint(hint, option, widget, returnData);
+    // What nobody sees has nothing to hide.
+    if (hint == SH_UnderlineShortcut && answer != 0 && widget && widget->isVisible()) {
+        return areMnemonicsUnderlined(*this, *widget) ? answer : 0;
+    }
+    return answer;
+}
+
+QRect BaseStyle::subElementRect(SubElement element, const QStyleOption *option,
+                                const QWidget *widget) const
+{
+    ItemViews::listViewPadding(*this);
+    const SubElementRule rule = subElementRule(element);
+    if (rule && !option) {
+        // The base style does not look whether there is one.
+        return {};
+    }
+    return rule ? rule(*this, {element, option, widget})
+                : QProxyStyle::subElementRect(element, option, widget);
+}
+
+QRect BaseStyle::subControlRect(ComplexControl control, const QStyleOptionComplex *option,
+                                SubControl sc, const QWidget *widget) const
+{
+    const SubControlRule rule = subControlRule(control);
+    if (rule && !option) {
+        return {};
+    }
+    return rule ? rule(*this, {control, option, sc, widget})
+                : QProxyStyle::subControlRect(control, option, sc, widget);
+}
+
+QSize BaseStyle::sizeFromContents(ContentsType type, const QStyleOption *option,
+                                  const QSize &contentsSize, const QWidget *widget) const
+{
+    const ContentsRule rule = option ? contentsRule(type) : nullptr;
+    return rule ? rule(*this, {type, option, contentsSize, widget})
+                : QProxyStyle::sizeFromContents(type, option, contentsSize, widget);
 }
 
 const QBrush &BaseStyle::lightOutlineBrush(const QPalette &pal) const

@@ -39,8 +39,8 @@ public:
     };
 
     BaseStyle();
-
-    using QProxyStyle::polish;
+    /// Combo boxes that use the style's item delegate get one of their own.
+    ~BaseStyle() override;
 
     /// Returns the style's palette; at first the standard palette of the base style.
     const QPalette &getPalette() const;
@@ -49,11 +49,29 @@ public:
     /// Replaces \a pal by the style's palette.
     void polish(QPalette &pal) override;
 
+    /// Adapts \a widget to the theme: attributes, palette, fonts, and what custom widgets are
+    /// handed as dynamic properties. Properties that it looks at are to be set before.
+    void polish(QWidget *widget) override;
+    /// Takes back the hover attribute of tab bars and group boxes, and nothing else.
+    void unpolish(QWidget *widget) override;
+    void polish(QApplication *application) override;
+    void unpolish(QApplication *application) override;
+
+    /// Tints icons and follows the Alt key. Never keeps an event from its target.
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
     int pixelMetric(PixelMetric metric, const QStyleOption *option = nullptr,
                     const QWidget *widget = nullptr) const override;
     int styleHint(StyleHint hint, const QStyleOption *option = nullptr,
                   const QWidget *widget = nullptr,
                   QStyleHintReturn *returnData = nullptr) const override;
+
+    QRect subElementRect(SubElement element, const QStyleOption *option,
+                         const QWidget *widget = nullptr) const override;
+    QRect subControlRect(ComplexControl control, const QStyleOptionComplex *option, SubControl sc,
+                         const QWidget *widget = nullptr) const override;
+    QSize sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &contentsSize,
+                           const QWidget *widget) const override;
 
     /// Returns the theme's icon for \a sp. For SP_CustomBase that is the icon which the property
     /// "highlightedIcon" of \a widget names, in the theme's main colour.
@@ -109,6 +127,10 @@ Q_SIGNALS:
     void paletteChanged(const QPalette &palette);
 
 private:
+    void filterWidgetEvent(QWidget &widget, const QEvent &event);
+    void pressAlt(const QWidget &window);
+    void releaseAlt(const QWidget &window);
+
     QPalette m_palette;
     QBrush m_expanderHeaderBrush;
     QBrush m_backgroundBrush;

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QtCore/QSize>
+#include <QtWidgets/QStyle>
+
+namespace TARN {
+
+/// What a widget, or somebody on its behalf, asks the style for. The option is never null, the
+/// widget may be.
+struct SubElementRequest
+{
+    QStyle::SubElement element;
+    const QStyleOption *option;
+    const QWidget *widget;
+};
+
+struct SubControlRequest
+{
+    QStyle::ComplexControl control;
+    const QStyleOptionComplex *option;
+    QStyle::SubControl subControl;
+    const QWidget *widget;
+};
+
+struct ContentsRequest
+{
+    QStyle::ContentsType type;
+    const QStyleOption *option;
+    QSize contents;
+    const QWidget *widget;
+};
+
+} // namespace TARN

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "style/Requests.h"
+
+#include <QtCore/QRect>
+
+class QWidget;
+
+namespace TARN {
+class BaseStyle;
+}
+
+/// Push buttons, tool buttons and command links.
+namespace TARN::Buttons {
+
+QSize pushButtonSize(const BaseStyle &style, const ContentsRequest &request);
+QSize toolButtonSize(const BaseStyle &style, const ContentsRequest &request);
+
+/// Returns the height of a push button that has the common fields of the option of \a request:
+/// inputs are as high as a button with the same text.
+int pushButtonHeight(const BaseStyle &style, const ContentsRequest &request);
+
+void polishCommandLink(BaseStyle &style, QWidget &widget);
+
+} // namespace TARN::Buttons

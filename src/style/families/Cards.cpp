@@ -1,0 +1,51 @@
+#include "style/families/Cards.h"
+
+#include "resources/ThemeResources.h"
+#include "style/BaseStyle.h"
+#include "style/Polishing.h"
+#include "style/Properties.h"
+
+#include <QtWidgets/QWidget>
+
+namespace TARN::Cards {
+
+void polishPart(BaseStyle & /*style*/, QWidget &widget)
+{
+    if (isSet(&widget, "CardWidgetBase_Header") || isSet(&widget, "CardWidgetBase_Contents") ||
+        isSet(&widget, "CardWidgetBase_Footer")) {
+        widget.setAttribute(Qt::WA_StyledBackground);
+    }
+}
+
+void polishTitle(BaseStyle & /*style*/, QWidget &widget)
+{
+    if (!isSet(&widget, "CardWidgetBase_Title")) {
+        return;
+    }
+    const QFont minimizedFont = ThemeResources::getFont(QStringLiteral("base"));
+    const QFont defaultFont = ThemeResources::getFont(QStringLiteral("medium"));
+    widget.setProperty("CardWidgetBase_Title_MinimizedFont", minimizedFont);
+    widget.setProperty("CardWidgetBase_Title_DefaultFont", defaultFont);
+    setPolishedFont(widget, isSet(widget.parent(), "minimized") ? minimizedFont : defaultFont);
+}
+
+void polishSubtitle(BaseStyle & /*style*/, QWidget &widget)
+{
+    if (!isSet(&widget, "CardWidgetBase_Subtitle")) {
+        return;
+    }
+    const QString brush = QStringLiteral("ForegroundDisabledBrush");
+    QPalette palette = widget.palette();
+    palette.setBrush(QPalette::All, QPalette::WindowText, BaseStyle::getBrush(brush, true));
+    palette.setBrush(QPalette::Disabled, QPalette::WindowText, BaseStyle::getBrush(brush, false));
+    widget.setPalette(palette);
+}
+
+void polishCard(BaseStyle & /*style*/, QWidget &widget)
+{
+    const QString brush = QStringLiteral("ForegroundMouseOverBrush");
+    widget.setProperty("BackgroundBrush", BaseStyle::getBrush(brush, true));
+    widget.setProperty("BackgroundBrushDisabled", BaseStyle::getBrush(brush, false));
+}
+
+} // namespace TARN::Cards

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "style/Requests.h"
+
+#include <QtCore/QRect>
+
+class QWidget;
+
+namespace TARN {
+class BaseStyle;
+}
+
+/// Combo boxes.
+namespace TARN::ComboBoxes {
+
+QRect subControlRect(const BaseStyle &style, const SubControlRequest &request);
+QSize comboBoxSize(const BaseStyle &style, const ContentsRequest &request);
+
+/// Gives the combo box, if it has the toolkit's delegate, one that draws separators.
+void polishDelegate(BaseStyle &style, QWidget &widget);
+
+} // namespace TARN::ComboBoxes

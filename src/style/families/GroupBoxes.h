@@ -1,0 +1,16 @@
+#pragma once
+
+#include "style/Requests.h"
+
+#include <QtCore/QRect>
+
+namespace TARN {
+class BaseStyle;
+}
+
+/// Group boxes.
+namespace TARN::GroupBoxes {
+
+QRect subControlRect(const BaseStyle &style, const SubControlRequest &request);
+
+} // namespace TARN::GroupBoxes

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "style/Requests.h"
+
+#include <QtCore/QRect>
+
+class QWidget;
+
+namespace TARN {
+class BaseStyle;
+}
+
+/// Line edits and text edits.
+namespace TARN::Inputs {
+
+QSize lineEditSize(const BaseStyle &style, const ContentsRequest &request);
+
+void polishClearButton(BaseStyle &style, QWidget &widget);
+
+} // namespace TARN::Inputs

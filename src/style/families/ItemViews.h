@@ -1,0 +1,28 @@
+#pragma once
+
+#include "style/Requests.h"
+
+#include <QtCore/QRect>
+
+class QWidget;
+
+namespace TARN {
+class BaseStyle;
+}
+
+/// Lists, trees and tables.
+namespace TARN::ItemViews {
+
+QRect decorationRect(const BaseStyle &style, const SubElementRequest &request);
+QRect textRect(const BaseStyle &style, const SubElementRequest &request);
+QSize itemSize(const BaseStyle &style, const ContentsRequest &request);
+
+/// Returns the padding of the items of a list, which is asked for once in a process.
+int listViewPadding(const BaseStyle &style);
+
+/// Fills the background of the view from the theme, unless the view has a palette of its own.
+void polishPalette(BaseStyle &style, QWidget &widget);
+/// Tells the view how its items are painted, unless it has a delegate of its own.
+void polishItems(BaseStyle &style, QWidget &widget);
+
+} // namespace TARN::ItemViews

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "style/Requests.h"
+
+#include <QtCore/QRect>
+
+class QWidget;
+
+namespace TARN {
+class BaseStyle;
+}
+
+/// Sliders, among them range sliders.
+namespace TARN::Sliders {
+
+QRect subControlRect(const BaseStyle &style, const SubControlRequest &request);
+QSize sliderSize(const BaseStyle &style, const ContentsRequest &request);
+
+void polishRangeSlider(BaseStyle &style, QWidget &widget);
+
+} // namespace TARN::Sliders

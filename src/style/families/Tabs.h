@@ -1,0 +1,23 @@
+#pragma once
+
+#include "style/Requests.h"
+
+#include <QtCore/QRect>
+
+class QWidget;
+
+namespace TARN {
+class BaseStyle;
+}
+
+/// Tab bars and tab widgets.
+namespace TARN::Tabs {
+
+QRect tabBarRect(const BaseStyle &style, const SubElementRequest &request);
+QRect rightButtonRect(const BaseStyle &style, const SubElementRequest &request);
+QRect textRect(const BaseStyle &style, const SubElementRequest &request);
+QSize tabSize(const BaseStyle &style, const ContentsRequest &request);
+
+void polishFont(BaseStyle &style, QWidget &widget);
+
+} // namespace TARN::Tabs
