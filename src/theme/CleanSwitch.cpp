@@ -6,7 +6,10 @@
 
 #include <QtGui/QPixmapCache>
 #include <QtWidgets/QApplication>
-#include <QtWidgets/QWidget>
+#include <QtWidgets/QDockWidget>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QMessageBox>
+#include <QtWidgets/QTabBar>
 
 namespace TARN {
 
@@ -29,6 +32,80 @@ QMap<QByteArray, QFont> chosenClassFonts()
     return fonts;
 }
 
+/// Returns the palette that \a widget would have if nobody had given it one.
+QPalette inheritedPalette(const QWidget &widget)
+{
+    return widget.isWindow() || !widget.parentWidget() ? QApplication::palette(&widget)
+                                                       : widget.parentWidget()->palette();
+}
+
+/// Returns the labels whose text is coloured like what they stand on, though their palette says so
+/// itself: a style that colours their disabled text fixes the enabled one too, since a palette has
+/// a role for all of its groups or for none.
+QVector<QPointer<QLabel>> plainLabels()
+{
+    QVector<QPointer<QLabel>> labels;
+    const QWidgetList widgets = QApplication::allWidgets();
+    for (QWidget *widget : widgets) {
+        auto *label = qobject_cast<QLabel *>(widget);
+        if (label && label->palette().brush(QPalette::Active, QPalette::WindowText) ==
+                         inheritedPalette(*label).brush(QPalette::Active, QPalette::WindowText)) {
+            labels.append(label);
+        }
+    }
+    return labels;
+}
+
+/// Gives \a labels the text colour of what they stand on.
+void colorPlainLabels(const QVector<QPointer<QLabel>> &labels)
+{
+    for (QLabel *label : labels) {
+        if (!label) {
+            continue;
+        }
+        const QPalette inherited = inheritedPalette(*label);
+        QPalette palette = label->palette();
+        for (const auto group : {QPalette::Active, QPalette::Inactive}) {
+            palette.setBrush(group, QPalette::WindowText,
+                             inherited.brush(group, QPalette::WindowText));
+        }
+        label->setPalette(palette);
+    }
+}
+
+/// Fits the buttons that close tabs to the font, since tab bars size them only once.
+void fitCloseButtons()
+{
+    const QWidgetList widgets = QApplication::allWidgets();
+    for (QWidget *widget : widgets) {
+        auto *tabBar = qobject_cast<QTabBar *>(widget->parentWidget());
+        if (tabBar && widget->inherits("CloseButton")) {
+            widget->resize(widget->sizeHint());
+            // It is then that the bar measures its tabs.
+            QEvent fontChange(QEvent::FontChange);
+            QCoreApplication::sendEvent(tabBar, &fontChange);
+        }
+    }
+}
+
+/// Has widgets that fetch icons from their style, when they are made or when the style changes,
+/// fetch them again: when it changed, the former theme's icons were gone and the new one's not yet
+/// there.
+void fetchIcons()
+{
+    const QWidgetList widgets = QApplication::allWidgets();
+    for (QWidget *widget : widgets) {
+        if (qobject_cast<QMessageBox *>(widget) || qobject_cast<QDockWidget *>(widget)) {
+            QEvent styleChange(QEvent::StyleChange);
+            QCoreApplication::sendEvent(widget, &styleChange);
+        } else if (widget->inherits("QToolBarExtension")) {
+            // It fetches its icon when it is turned.
+            QEvent directionChange(QEvent::LayoutDirectionChange);
+            QCoreApplication::sendEvent(widget, &directionChange);
+        }
+    }
+}
+
 } // namespace
 
 CleanSwitch::CleanSwitch(QApplication &app, ThemeFootprint &footprint)
@@ -44,6 +121,7 @@ CleanSwitch::CleanSwitch(QApplication &app, ThemeFootprint &footprint)
     if (!footprint.isEmpty()) {
         m_classFonts = chosenClassFonts();
     }
+    m_plainLabels = plainLabels();
     footprint.takeBack();
     ProcessCache::dropAll();
     // Pictures are kept by path and size there, which two themes' resource files may share.
@@ -87,6 +165,9 @@ void CleanSwitch::finish() const
         QApplication::setFont(it.value(), it.key().constData());
     }
     if (m_active) {
+        colorPlainLabels(m_plainLabels);
+        fitCloseButtons();
+        fetchIcons();
         repaintDocumentLinks(m_formerLink, QGuiApplication::palette().link());
     }
 }

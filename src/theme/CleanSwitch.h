@@ -2,11 +2,14 @@
 
 #include <QtCore/QByteArray>
 #include <QtCore/QMap>
+#include <QtCore/QPointer>
+#include <QtCore/QVector>
 #include <QtGui/QBrush>
 #include <QtGui/QFont>
 #include <QtGui/QPalette>
 
 class QApplication;
+class QLabel;
 
 namespace TARN {
 
@@ -40,7 +43,8 @@ public:
 
     /// To be called when all has been applied: gives the application back the fonts that it chose
     /// for classes of widgets, which a change of the style or of the application font resets, and
-    /// has shown documents follow the palette.
+    /// has follow what does not do so by itself: labels and shown documents the palette, the icons
+    /// and sizes that widgets keep the style.
     void finish() const;
 
 private:
@@ -50,6 +54,7 @@ private:
     QFont m_formerFont;
     QBrush m_formerLink;
     QMap<QByteArray, QFont> m_classFonts;
+    QVector<QPointer<QLabel>> m_plainLabels;
 };
 
 } // namespace TARN

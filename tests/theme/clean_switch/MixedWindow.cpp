@@ -3,6 +3,7 @@
 #include <resources/ThemeColorHelper.h>
 #include <resources/ThemeResources.h>
 #include <style/BaseStyle.h>
+#include <style/ComboBoxDefaultItemDelegate.h>
 
 #include <QtGui/QPainter>
 #include <QtGui/QStandardItemModel>
@@ -12,13 +13,18 @@
 #include <QtWidgets/QCalendarWidget>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QComboBox>
+#include <QtWidgets/QCommandLinkButton>
 #include <QtWidgets/QDateTimeEdit>
 #include <QtWidgets/QDial>
+#include <QtWidgets/QDockWidget>
 #include <QtWidgets/QGroupBox>
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
+#include <QtWidgets/QListWidget>
+#include <QtWidgets/QMainWindow>
 #include <QtWidgets/QMenuBar>
+#include <QtWidgets/QMessageBox>
 #include <QtWidgets/QProgressBar>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QRadioButton>
@@ -26,9 +32,12 @@
 #include <QtWidgets/QSlider>
 #include <QtWidgets/QSpinBox>
 #include <QtWidgets/QStatusBar>
+#include <QtWidgets/QStyleOption>
 #include <QtWidgets/QTabWidget>
 #include <QtWidgets/QTableView>
 #include <QtWidgets/QTextBrowser>
+#include <QtWidgets/QToolBar>
+#include <QtWidgets/QToolBox>
 #include <QtWidgets/QToolButton>
 #include <QtWidgets/QTreeView>
 
@@ -44,7 +53,7 @@ namespace {
 class ValueStrip : public QWidget
 {
 public:
-    ValueStrip() { setFixedHeight(24); }
+    ValueStrip() { setFixedSize(400, 24); }
 
 protected:
     void paintEvent(QPaintEvent * /*event*/) override
@@ -74,6 +83,55 @@ protected:
         painter.drawPixmap(x + 90, 4, picture);
     }
 };
+
+/// Shows the icon that the style highlights for its widget.
+class HighlightedIcon : public QWidget
+{
+public:
+    explicit HighlightedIcon(const char *name)
+    {
+        setProperty("highlightedIcon", text(name));
+        setFixedSize(28, 28);
+    }
+
+protected:
+    void paintEvent(QPaintEvent * /*event*/) override
+    {
+        QStyleOption option;
+        option.initFrom(this);
+        QPainter painter(this);
+        style()->standardIcon(QStyle::SP_CustomBase, &option, this).paint(&painter, rect());
+    }
+};
+
+/// Shows the list that a combo box opens, as a part of the window.
+class OpenedList : public QWidget
+{
+public:
+    explicit OpenedList(QComboBox *box)
+        : m_view(box->view())
+    {
+        setFixedSize(160, 120);
+        m_view->ensurePolished();
+        m_view->setFixedSize(size());
+    }
+
+protected:
+    void paintEvent(QPaintEvent * /*event*/) override
+    {
+        QPainter(this).drawPixmap(0, 0, m_view->grab());
+    }
+
+private:
+    QAbstractItemView *m_view;
+};
+
+QIcon applicationIcon()
+{
+    QPixmap pixmap(24, 24);
+    pixmap.fill(QColor(20, 120, 220));
+    return pixmap;
+}
 
 QLayout *buttons()
 {
@@ -168,6 +226,8 @@ QLayout *views()
 QWidget *tabs()
 {
     auto *tabs = new QTabWidget;
+    // A tab bar sizes the buttons of its tabs when they are added.
+    tabs->tabBar()->ensurePolished();
     tabs->setTabsClosable(true);
     auto *browser = new QTextBrowser;
     browser->setHtml(text("Rich text with a <a href='x'>link</a> and <b>more</b>"));
@@ -188,6 +248,116 @@ QWidget *group()
     styled->setStyleSheet(text("color: #c05010; border: 1px solid #10c050; padding: 2px"));
     layout->addWidget(styled);
     return group;
+}
+
+QMainWindow *mainWindow()
+{
+    auto *window = new QMainWindow(nullptr, Qt::Widget);
+    auto *bar = window->addToolBar(text("Tools"));
+    bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    for (const char *name : {"One tool", "Another tool", "A third tool", "The last tool"}) {
+        bar->addAction(applicationIcon(), text(name));
+    }
+    auto *dock = new QDockWidget(text("Dock"));
+    dock->setWidget(new QLabel(text("What the dock contains")));
+    dock->setTitleBarWidget(new QLabel(text("Title of the dock")));
+    window->addDockWidget(Qt::LeftDockWidgetArea, dock);
+    window->setCentralWidget(new QLabel(text("Centre")));
+    window->statusBar()->showMessage(text("Ready"));
+    window->setFixedSize(300, 200);
+    return window;
+}
+
+QToolBox *toolBox()
+{
+    auto *box = new QToolBox;
+    box->addItem(new QLabel(text("First contents")), applicationIcon(), text("First"));
+    box->addItem(new QLabel(text("Second contents")), text("Second"));
+    box->setFixedSize(180, 200);
+    return box;
+}
+
+QLayout *messages()
+{
+    auto *column = new QVBoxLayout;
+    auto *box = new QMessageBox(QMessageBox::Warning, QString(), text("A message"),
+                                QMessageBox::Ok | QMessageBox::Cancel);
+    box->setWindowFlags(Qt::Widget);
+    auto *link = new QCommandLinkButton(text("Command link"), text("What it does"));
+    link->setIcon(QIcon::fromTheme(text("action.close")));
+    auto *own = new QCommandLinkButton(text("With an icon of its own"));
+    own->setIcon(applicationIcon());
+    own->setEnabled(false);
+    for (QWidget *widget : QWidgetList{box, link, own}) {
+        column->addWidget(widget);
+    }
+    return column;
+}
+
+QTabWidget *iconTabs()
+{
+    auto *tabs = new QTabWidget;
+    // A tab bar sizes the buttons of its tabs when they are added.
+    tabs->tabBar()->ensurePolished();
+    tabs->setTabsClosable(true);
+    tabs->addTab(new QListWidget, applicationIcon(), text("Icon"));
+    tabs->addTab(new QLabel, QIcon::fromTheme(text("action.close")), text("Theme icon"));
+    tabs->setProperty("largeTabSize", true);
+    tabs->tabBar()->setProperty("smallTabSize", true);
+    return tabs;
+}
+
+QWidget *markedLabel(const char *mark)
+{
+    auto *label = new QLabel(text(mark));
+    label->setProperty(mark, true);
+    return label;
+}
+
+QLayout *marks()
+{
+    auto *column = new QVBoxLayout;
+    auto *onOff = new QCheckBox(text("Switch"));
+    onOff->setProperty("switch", true);
+    auto *disabledPicture = new QLabel;
+    disabledPicture->setPixmap(applicationIcon().pixmap(24, 24));
+    disabledPicture->setEnabled(false);
+    auto *disabledText = new QLabel(text("Disabled text"));
+    disabledText->setEnabled(false);
+    auto *minimized = new QScrollBar(Qt::Horizontal);
+    minimized->setProperty("minimized", true);
+    for (QWidget *widget :
+         QWidgetList{onOff, disabledPicture, disabledText, minimized,
+                     new HighlightedIcon("status.checked.circular.colored"),
+                     new HighlightedIcon("action.close"), markedLabel("Pill_Font"),
+                     markedLabel("CardWidgetBase_Title"), markedLabel("CardWidgetBase_Subtitle")}) {
+        column->addWidget(widget);
+    }
+    return column;
+}
+
+/// A combo box with a separator, and the list that it opens.
+QLayout *separatedList()
+{
+    auto *column = new QVBoxLayout;
+    auto *box = new QComboBox;
+    box->addItems({text("Above"), text("separator"), text("Below")});
+    TARN::ComboBoxDefaultItemDelegate::setSeparator(box->model(), box->model()->index(1, 0));
+    column->addWidget(box);
+    column->addWidget(new OpenedList(box));
+    return column;
+}
+
+QLayout *furtherWidgets()
+{
+    auto *row = new QHBoxLayout;
+    row->addWidget(mainWindow());
+    row->addWidget(toolBox());
+    row->addLayout(messages());
+    row->addWidget(iconTabs());
+    row->addLayout(separatedList());
+    row->addLayout(marks());
+    return row;
 }
 
 } // namespace
@@ -211,10 +381,11 @@ std::unique_ptr<QWidget> createMixedWindow()
     calendar->setSelectedDate(QDate(2020, 2, 29));
     lower->addWidget(calendar);
     layout->addLayout(lower);
+    layout->addLayout(furtherWidgets());
     auto *statusBar = new QStatusBar;
     statusBar->showMessage(text("Status"));
     layout->addWidget(statusBar);
-    window->setFixedSize(1000, 720);
+    window->setFixedSize(1400, 1000);
     return window;
 }
 
