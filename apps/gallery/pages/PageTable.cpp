@@ -61,6 +61,7 @@ const QVector<Page> &pages()
         {Name("splitters-and-scroll-areas"), Name("Splitters and scrolling"), containers,
          createSplittersAndScrollAreasPage},
         {Name("sub-windows"), Name("Subwindows"), containers, createSubWindowsPage},
+        {Name("components"), Name("Components"), containers, createComponentsPage},
 
         {Name("menus"), Name("Menus"), windows, createMenusPage},
         {Name("tool-bars"), Name("Tool bars"), windows, createToolBarsPage},

@@ -44,6 +44,7 @@ QWidget *createTriangularTabsPage();
 QWidget *createGroupBoxesPage();
 QWidget *createSplittersAndScrollAreasPage();
 QWidget *createSubWindowsPage();
+QWidget *createComponentsPage();
 
 QWidget *createMenusPage();
 QWidget *createToolBarsPage();
