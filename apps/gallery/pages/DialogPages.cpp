@@ -19,7 +19,7 @@ namespace TARN::Gallery {
 namespace {
 
 // Makes a message box just as wide as it may be on a small screen, so that it looks alike on every
-// screen.
+// screen. A text that is wider stays whole.
 constexpr int TextWidth = 280;
 
 QMessageBox *messageBox(QMessageBox::Icon icon, const QString &text, const QString &details,
@@ -28,7 +28,7 @@ QMessageBox *messageBox(QMessageBox::Icon icon, const QString &text, const QStri
     auto *box = new QMessageBox(icon, QString(), text, buttons);
     box->setInformativeText(details);
     if (auto *label = box->findChild<QLabel *>("qt_msgbox_label"_s)) {
-        label->setMinimumWidth(TextWidth);
+        label->setMinimumWidth(qMax(TextWidth, label->sizeHint().width()));
     }
     return box;
 }

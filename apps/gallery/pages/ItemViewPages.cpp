@@ -73,6 +73,7 @@ QWidget *projectTree()
     tree->setModel(projectModel(tree));
     tree->setAlternatingRowColors(true);
     tree->expandAll();
+    tree->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     tree->header()->setSectionResizeMode(0, QHeaderView::Stretch);
     tree->header()->setStretchLastSection(false);
     tree->setCurrentIndex(tree->model()->index(0, 0));
@@ -98,6 +99,12 @@ QWidget *deviceTree()
     return tree;
 }
 
+// A table's rows are of one height whatever its font is, until they are told to follow it.
+void fitRows(QTableView *table)
+{
+    table->verticalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+}
+
 QWidget *particleTable()
 {
     auto *table = new QTableView;
@@ -108,6 +115,7 @@ QWidget *particleTable()
     table->setSelectionBehavior(QAbstractItemView::SelectRows);
     table->resizeColumnsToContents();
     table->horizontalHeader()->setStretchLastSection(true);
+    fitRows(table);
     table->setCurrentIndex(table->model()->index(1, 0));
     return table;
 }
@@ -123,7 +131,8 @@ QWidget *calibrationTable()
         table->setItem(i / 3, i % 3, new QTableWidgetItem(texts.at(i)));
     }
     table->setShowGrid(true);
-    table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    table->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    fitRows(table);
     table->setCurrentCell(1, 1);
     return table;
 }
