@@ -86,13 +86,12 @@ QAction *MainWindow::addWindowAction(const QString &icon, const QString &text,
 
 void MainWindow::createMenus()
 {
-    m_previous = addWindowAction("up"_s, "&Previous page"_s, QKeySequence("Alt+Up"_s));
-    m_next = addWindowAction("down"_s, "&Next page"_s, QKeySequence("Alt+Down"_s));
-    m_rightToLeft =
-        addWindowAction("right-to-left"_s, "&Right to left"_s, QKeySequence("Ctrl+R"_s));
+    m_previous = addWindowAction("chevron.up"_s, "&Previous page"_s, QKeySequence("Alt+Up"_s));
+    m_next = addWindowAction("chevron.down"_s, "&Next page"_s, QKeySequence("Alt+Down"_s));
+    m_rightToLeft = addWindowAction("action.swap"_s, "&Right to left"_s, QKeySequence("Ctrl+R"_s));
     m_rightToLeft->setCheckable(true);
     m_rightToLeft->setChecked(layoutDirection() == Qt::RightToLeft);
-    QAction *find = addWindowAction("search"_s, "&Find a page"_s, QKeySequence::Find);
+    QAction *find = addWindowAction("action.search"_s, "&Find a page"_s, QKeySequence::Find);
     QAction *quit = addWindowAction(QString(), "&Quit"_s, QKeySequence("Ctrl+Q"_s));
 
     menuBar()->addMenu("&File"_s)->addAction(quit);
@@ -116,7 +115,7 @@ void MainWindow::createMenus()
 
 void MainWindow::createToolBar()
 {
-    m_themeButton->setIcon(symbol("theme"_s));
+    m_themeButton->setIcon(symbol("action.theme"_s));
     m_themeButton->setToolTip("Switch the theme"_s);
     m_themeButton->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     m_themeButton->setMenu(m_themeMenu);

@@ -42,7 +42,7 @@ PageList::PageList(QWidget *parent)
 {
     m_search->setPlaceholderText("Find a page"_s);
     m_search->setClearButtonEnabled(true);
-    m_search->addAction(symbol("search"_s), QLineEdit::LeadingPosition);
+    m_search->addAction(symbol("action.search"_s), QLineEdit::LeadingPosition);
     m_list->setAccessibleName("Pages"_s);
     m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     addPages();

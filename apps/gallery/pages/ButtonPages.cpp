@@ -64,18 +64,18 @@ QWidget *checkableButtons()
 
 QWidget *iconButtons()
 {
-    QPushButton *checked = iconButton("eye"_s, "Show grid"_s);
+    QPushButton *checked = iconButton("view.show"_s, "Show grid"_s);
     checked->setCheckable(true);
     checked->setChecked(true);
-    QPushButton *iconOnly = iconButton("rotate"_s, QString());
+    QPushButton *iconOnly = iconButton("arrow.clockwise"_s, QString());
     iconOnly->setToolTip("Rotate by 90°"_s);
-    return row(
-        {iconButton("camera"_s, "Acquire"_s), iconButton("save"_s, "Save"_s), checked, iconOnly});
+    return row({iconButton("tool.camera"_s, "Acquire"_s), iconButton("action.save"_s, "Save"_s),
+                checked, iconOnly});
 }
 
 QWidget *menuButtons()
 {
-    return row({menuButton("Export"_s), menuButton("Report"_s, symbol("document"_s))});
+    return row({menuButton("Export"_s), menuButton("Report"_s, symbol("file.text"_s))});
 }
 
 QWidget *commandLinks()
@@ -84,7 +84,7 @@ QWidget *commandLinks()
                                            "Takes a picture with the connected camera."_s);
     auto *open = new QCommandLinkButton("Open an existing image"_s,
                                         "TIFF, PNG, JPEG and raw camera files."_s);
-    open->setIcon(symbol("open"_s));
+    open->setIcon(symbol("file.folder.open"_s));
     return column({acquire, open});
 }
 

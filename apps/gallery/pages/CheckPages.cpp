@@ -47,9 +47,9 @@ QWidget *checkStates()
 QWidget *iconChecks()
 {
     QCheckBox *grid = checkBox("Show grid"_s, Qt::Checked);
-    grid->setIcon(symbol("table"_s));
+    grid->setIcon(symbol("view.table"_s));
     QCheckBox *layers = checkBox("Show layers"_s, Qt::Unchecked);
-    layers->setIcon(symbol("layers"_s));
+    layers->setIcon(symbol("view.layer"_s));
     return row({grid, layers, checkBox(QString(), Qt::Checked)});
 }
 
@@ -69,9 +69,9 @@ QWidget *radioStates()
 QWidget *iconRadios()
 {
     QRadioButton *image = radioButton("Image"_s, true);
-    image->setIcon(symbol("image"_s));
+    image->setIcon(symbol("view.image"_s));
     QRadioButton *document = radioButton("Document"_s);
-    document->setIcon(symbol("document"_s));
+    document->setIcon(symbol("file.text"_s));
     return row({image, document});
 }
 

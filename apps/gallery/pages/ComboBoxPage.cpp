@@ -47,9 +47,9 @@ QComboBox *placeholderCombo()
 QComboBox *iconCombo()
 {
     auto *combo = new QComboBox;
-    combo->addItem(symbol("ruler"_s), "Distance"_s);
-    combo->addItem(symbol("angle"_s), "Angle"_s);
-    combo->addItem(symbol("area"_s), "Area"_s);
+    combo->addItem(symbol("tool.ruler"_s), "Distance"_s);
+    combo->addItem(symbol("measure.angle"_s), "Angle"_s);
+    combo->addItem(symbol("measure.area"_s), "Area"_s);
     return combo;
 }
 

@@ -68,9 +68,10 @@ QWidget *toolBox()
     layout->addWidget(new QCheckBox("Median, 3 × 3"_s));
     layout->addWidget(new QCheckBox("Remove background"_s));
     layout->addStretch();
-    box->addItem(filters, symbol("filter"_s), "Filters"_s);
-    box->addItem(new QLabel("Choose two points in the image."_s), symbol("ruler"_s), "Distance"_s);
-    const int locked = box->addItem(new QLabel, symbol("lock"_s), "Administration"_s);
+    box->addItem(filters, symbol("action.filter"_s), "Filters"_s);
+    box->addItem(new QLabel("Choose two points in the image."_s), symbol("tool.ruler"_s),
+                 "Distance"_s);
+    const int locked = box->addItem(new QLabel, symbol("action.lock"_s), "Administration"_s);
     box->setItemEnabled(locked, false);
     return box;
 }
@@ -131,7 +132,7 @@ QMdiSubWindow *addImageWindow(QMdiArea *area, const QString &title, quint32 seed
     picture->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
     QMdiSubWindow *window = area->addSubWindow(picture);
     window->setWindowTitle(title);
-    window->setWindowIcon(symbol("image"_s));
+    window->setWindowIcon(symbol("view.image"_s));
     window->setGeometry(geometry);
     return window;
 }

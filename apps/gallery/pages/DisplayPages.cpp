@@ -57,7 +57,7 @@ protected:
 QWidget *tips()
 {
     auto *button = new QToolButton;
-    button->setIcon(symbol("ruler"_s));
+    button->setIcon(symbol("tool.ruler"_s));
     button->setText("Point here"_s);
     button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     button->setToolTip("Measures the distance between two points"_s);
@@ -133,7 +133,7 @@ QWidget *undoView()
     stack->undo();
     stack->setClean();
     view->setStack(stack);
-    view->setCleanIcon(symbol("save"_s));
+    view->setCleanIcon(symbol("action.save"_s));
     view->setEmptyLabel("As acquired"_s);
     return view;
 }

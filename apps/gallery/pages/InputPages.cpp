@@ -20,7 +20,7 @@ QLineEdit *placeholderEdit()
 {
     auto *edit = new QLineEdit;
     edit->setPlaceholderText("Search images"_s);
-    edit->addAction(symbol("search"_s), QLineEdit::LeadingPosition);
+    edit->addAction(symbol("action.search"_s), QLineEdit::LeadingPosition);
     return edit;
 }
 

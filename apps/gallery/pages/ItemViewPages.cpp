@@ -32,7 +32,7 @@ QWidget *plainList()
 {
     QListWidget *list = listOf(
         {"Overview.tif"_s, "Heat zone.tif"_s, "Root.tif"_s, "Base metal.tif"_s, "Rejected.tif"_s},
-        "image"_s);
+        "view.image"_s);
     list->setSelectionMode(QAbstractItemView::ExtendedSelection);
     list->setCurrentRow(1);
     list->item(2)->setSelected(true);
@@ -44,7 +44,7 @@ QWidget *checkList()
 {
     QListWidget *list =
         listOf({"Area"_s, "Perimeter"_s, "Circularity"_s, "Feret diameter"_s, "Mean intensity"_s},
-               "ruler"_s);
+               "tool.ruler"_s);
     list->setAlternatingRowColors(true);
     for (int i = 0; i < list->count(); ++i) {
         list->item(i)->setCheckState(i < 3 ? Qt::Checked : Qt::Unchecked);
@@ -85,11 +85,11 @@ QWidget *deviceTree()
     auto *tree = new QTreeWidget;
     tree->setHeaderLabels({"Device"_s, "Value"_s});
     auto *camera = new QTreeWidgetItem(tree, {"Camera"_s, "Ready"_s});
-    camera->setIcon(0, symbol("camera"_s));
+    camera->setIcon(0, symbol("tool.camera"_s));
     new QTreeWidgetItem(camera, {"Exposure"_s, "12 ms"_s});
     new QTreeWidgetItem(camera, {"Gain"_s, "1.4"_s});
     auto *stage = new QTreeWidgetItem(tree, {"Stage"_s, "Not connected"_s});
-    stage->setIcon(0, symbol("settings"_s));
+    stage->setIcon(0, symbol("action.settings"_s));
     stage->setDisabled(true);
     tree->setSortingEnabled(true);
     tree->sortByColumn(0, Qt::AscendingOrder);
@@ -168,7 +168,7 @@ QHeaderView *header(Qt::Orientation orientation)
 QWidget *horizontalHeader()
 {
     QHeaderView *view = header(Qt::Horizontal);
-    view->model()->setHeaderData(0, Qt::Horizontal, symbol("filter"_s), Qt::DecorationRole);
+    view->model()->setHeaderData(0, Qt::Horizontal, symbol("action.filter"_s), Qt::DecorationRole);
     view->resizeSections(QHeaderView::ResizeToContents);
     view->setMaximumHeight(view->sizeHint().height());
     return view;

@@ -28,11 +28,14 @@ struct ToolAction
     const char *text;
 };
 
-constexpr ToolAction FileActions[] = {
-    {"open", "Open"}, {"save", "Save"}, {"print", "Print"}, {"copy", "Copy"}};
+constexpr ToolAction FileActions[] = {{"file.folder.open", "Open"},
+                                      {"action.save", "Save"},
+                                      {"action.print", "Print"},
+                                      {"action.copy", "Copy"}};
 constexpr ToolAction ImageActions[] = {
-    {"zoom-in", "Zoom in"}, {"zoom-out", "Zoom out"}, {"zoom-fit", "Fit"},  {"rotate", "Rotate"},
-    {"crop", "Crop"},       {"filter", "Filter"},     {"layers", "Layers"}, {"chart", "Histogram"}};
+    {"viewer.zoom.in", "Zoom in"}, {"viewer.zoom.out", "Zoom out"}, {"viewer.zoom.fit", "Fit"},
+    {"arrow.clockwise", "Rotate"}, {"tool.crop", "Crop"},           {"action.filter", "Filter"},
+    {"view.layer", "Layers"},      {"chart.column", "Histogram"}};
 
 template <std::size_t Count>
 void addActions(QToolBar *bar, const ToolAction (&actions)[Count])

@@ -36,21 +36,21 @@ void addChoice(QMenu *menu, QActionGroup *group, const QString &text, bool check
 
 void fillMeasureMenu(QMenu *menu)
 {
-    addAction(menu, "ruler"_s, "&Distance"_s);
-    addAction(menu, "angle"_s, "&Angle"_s);
-    addAction(menu, "area"_s, "A&rea"_s);
+    addAction(menu, "tool.ruler"_s, "&Distance"_s);
+    addAction(menu, "measure.angle"_s, "&Angle"_s);
+    addAction(menu, "measure.area"_s, "A&rea"_s);
 }
 
 void fillEditMenu(QMenu *menu)
 {
-    addAction(menu, "undo"_s, "&Undo threshold"_s, QKeySequence("Ctrl+Z"_s));
-    addAction(menu, "redo"_s, "&Redo"_s, QKeySequence("Ctrl+Shift+Z"_s), false);
+    addAction(menu, "action.undo"_s, "&Undo threshold"_s, QKeySequence("Ctrl+Z"_s));
+    addAction(menu, "action.redo"_s, "&Redo"_s, QKeySequence("Ctrl+Shift+Z"_s), false);
     menu->addSeparator();
-    addAction(menu, "copy"_s, "&Copy"_s, QKeySequence("Ctrl+C"_s));
-    addAction(menu, "paste"_s, "&Paste"_s, QKeySequence("Ctrl+V"_s), false);
-    addAction(menu, "delete"_s, "&Delete"_s, QKeySequence("Del"_s));
+    addAction(menu, "action.copy"_s, "&Copy"_s, QKeySequence("Ctrl+C"_s));
+    addAction(menu, "action.paste"_s, "&Paste"_s, QKeySequence("Ctrl+V"_s), false);
+    addAction(menu, "action.delete"_s, "&Delete"_s, QKeySequence("Del"_s));
     menu->addSeparator();
-    QMenu *measure = menu->addMenu(symbol("ruler"_s), "&Measure"_s);
+    QMenu *measure = menu->addMenu(symbol("tool.ruler"_s), "&Measure"_s);
     fillMeasureMenu(measure);
 }
 
@@ -93,7 +93,7 @@ QWidget *menuBar()
 {
     auto *bar = new QMenuBar;
     bar->setNativeMenuBar(false);
-    bar->addMenu("&File"_s)->addAction(symbol("open"_s), "&Open…"_s);
+    bar->addMenu("&File"_s)->addAction(symbol("file.folder.open"_s), "&Open…"_s);
     fillEditMenu(bar->addMenu("&Edit"_s));
     fillViewMenu(bar->addMenu("&View"_s));
     fillMeasureMenu(bar->addMenu("&Measure"_s));

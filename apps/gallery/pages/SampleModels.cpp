@@ -52,7 +52,7 @@ QList<QStandardItem *> particleRow(const Particle &particle)
 
 QStandardItem *layerItem(const QString &name, Qt::CheckState state)
 {
-    auto *item = new QStandardItem(symbol("layers"_s), name);
+    auto *item = new QStandardItem(symbol("view.layer"_s), name);
     item->setCheckable(true);
     item->setCheckState(state);
     return item;
@@ -68,14 +68,14 @@ void appendWideRows(QStandardItem *parent, const QList<QStandardItem *> &items)
 
 QStandardItem *imageItem(const QString &name, const QList<QStandardItem *> &layers)
 {
-    auto *item = new QStandardItem(symbol("image"_s), name);
+    auto *item = new QStandardItem(symbol("view.image"_s), name);
     appendWideRows(item, layers);
     return item;
 }
 
 QStandardItem *sampleItem(const QString &name, const QList<QStandardItem *> &images)
 {
-    auto *item = new QStandardItem(symbol("folder"_s), name);
+    auto *item = new QStandardItem(symbol("file.folder"_s), name);
     appendWideRows(item, images);
     return item;
 }
@@ -119,7 +119,7 @@ QStandardItemModel *projectModel(QObject *parent)
     QStandardItem *archived = sampleItem("Weld seam 11"_s, {});
     addProjectRow(model, archived, "Archived"_s);
     disable(archived);
-    addProjectRow(model, new QStandardItem(symbol("document"_s), "Report.pdf"_s), "Draft"_s);
+    addProjectRow(model, new QStandardItem(symbol("file.text"_s), "Report.pdf"_s), "Draft"_s);
     return model;
 }
 

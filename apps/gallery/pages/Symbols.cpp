@@ -2,6 +2,8 @@
 
 #include "Literals.h"
 
+#include <resources/ThemeResources.h>
+
 #include <QtGui/QGuiApplication>
 #include <QtGui/QIconEngine>
 #include <QtGui/QImageReader>
@@ -9,12 +11,6 @@
 #include <QtGui/QPalette>
 
 #include <utility>
-
-// A resource of a static library has to be asked for, and not from inside a namespace.
-static void initSymbolResources()
-{
-    Q_INIT_RESOURCE(GallerySymbols);
-}
 
 namespace TARN::Gallery {
 
@@ -77,8 +73,9 @@ private:
 
 QIcon symbol(const QString &name)
 {
-    initSymbolResources();
-    return QIcon(new SymbolEngine(":/gallery/symbols/"_s + name + ".svg"_s));
+    // Looked for anew for each picture: a theme may have an icon of that name itself.
+    return QIcon(
+        new SymbolEngine(ThemeResources::iconsPrefix() + QLatin1Char(':') + name + ".svg"_s));
 }
 
 } // namespace TARN::Gallery

@@ -48,9 +48,9 @@ QWidget *positions(QTabWidget::TabShape shape)
 QTabWidget *iconTabs()
 {
     QTabWidget *tabs = tabWidget(QTabWidget::North, QTabWidget::Rounded);
-    tabs->setTabIcon(0, symbol("image"_s));
-    tabs->setTabIcon(1, symbol("chart"_s));
-    tabs->setTabIcon(2, symbol("lock"_s));
+    tabs->setTabIcon(0, symbol("view.image"_s));
+    tabs->setTabIcon(1, symbol("chart.column"_s));
+    tabs->setTabIcon(2, symbol("action.lock"_s));
     return tabs;
 }
 
@@ -75,7 +75,7 @@ QTabBar *tabBar()
     auto *bar = new QTabBar;
     for (const QString &name : {"Overview.tif"_s, "Heat zone.tif"_s, "Root.tif"_s,
                                 "Base metal.tif"_s, "Etched.tif"_s, "Rejected.tif"_s}) {
-        bar->addTab(symbol("image"_s), name);
+        bar->addTab(symbol("view.image"_s), name);
     }
     bar->setCurrentIndex(1);
     bar->setTabTextColor(5, bar->palette().color(QPalette::Link));

@@ -23,11 +23,11 @@ QToolButton *toolButton(const QString &icon, const QString &text, Qt::ToolButton
 
 QToolButton *popupButton(const QString &text, QToolButton::ToolButtonPopupMode mode)
 {
-    QToolButton *button = toolButton("ruler"_s, text, Qt::ToolButtonTextBesideIcon);
+    QToolButton *button = toolButton("tool.ruler"_s, text, Qt::ToolButtonTextBesideIcon);
     auto *menu = new QMenu(button);
-    menu->addAction(symbol("ruler"_s), "Distance"_s);
-    menu->addAction(symbol("angle"_s), "Angle"_s);
-    menu->addAction(symbol("area"_s), "Area"_s);
+    menu->addAction(symbol("tool.ruler"_s), "Distance"_s);
+    menu->addAction(symbol("measure.angle"_s), "Angle"_s);
+    menu->addAction(symbol("measure.area"_s), "Area"_s);
     button->setMenu(menu);
     button->setPopupMode(mode);
     return button;
@@ -49,10 +49,10 @@ QToolButton *arrowButton(Qt::ArrowType arrow)
 
 QWidget *styles()
 {
-    return row({toolButton("open"_s, "Open"_s, Qt::ToolButtonIconOnly),
-                toolButton("open"_s, "Open"_s, Qt::ToolButtonTextOnly),
-                toolButton("open"_s, "Open"_s, Qt::ToolButtonTextBesideIcon),
-                toolButton("open"_s, "Open"_s, Qt::ToolButtonTextUnderIcon)});
+    return row({toolButton("file.folder.open"_s, "Open"_s, Qt::ToolButtonIconOnly),
+                toolButton("file.folder.open"_s, "Open"_s, Qt::ToolButtonTextOnly),
+                toolButton("file.folder.open"_s, "Open"_s, Qt::ToolButtonTextBesideIcon),
+                toolButton("file.folder.open"_s, "Open"_s, Qt::ToolButtonTextUnderIcon)});
 }
 
 QWidget *popupModes()
@@ -64,16 +64,17 @@ QWidget *popupModes()
 
 QWidget *checkables()
 {
-    QToolButton *off = toolButton("crop"_s, "Crop"_s, Qt::ToolButtonIconOnly);
+    QToolButton *off = toolButton("tool.crop"_s, "Crop"_s, Qt::ToolButtonIconOnly);
     off->setCheckable(true);
-    return row({off, checked(toolButton("pen"_s, "Draw"_s, Qt::ToolButtonIconOnly)),
-                checked(toolButton("layers"_s, "Layers"_s, Qt::ToolButtonTextBesideIcon))});
+    return row({off, checked(toolButton("tool.pen"_s, "Draw"_s, Qt::ToolButtonIconOnly)),
+                checked(toolButton("view.layer"_s, "Layers"_s, Qt::ToolButtonTextBesideIcon))});
 }
 
 QWidget *autoRaised()
 {
     QList<QWidget *> buttons;
-    for (const QString &name : {"zoom-in"_s, "zoom-out"_s, "zoom-fit"_s, "rotate"_s}) {
+    for (const QString &name :
+         {"viewer.zoom.in"_s, "viewer.zoom.out"_s, "viewer.zoom.fit"_s, "arrow.clockwise"_s}) {
         QToolButton *button = toolButton(name, name, Qt::ToolButtonIconOnly);
         button->setAutoRaise(true);
         buttons.append(button);
@@ -90,8 +91,8 @@ QWidget *arrows()
 
 QWidget *largeIcons()
 {
-    QToolButton *beside = toolButton("camera"_s, "Acquire"_s, Qt::ToolButtonTextBesideIcon);
-    QToolButton *under = toolButton("chart"_s, "Histogram"_s, Qt::ToolButtonTextUnderIcon);
+    QToolButton *beside = toolButton("tool.camera"_s, "Acquire"_s, Qt::ToolButtonTextBesideIcon);
+    QToolButton *under = toolButton("chart.column"_s, "Histogram"_s, Qt::ToolButtonTextUnderIcon);
     for (QToolButton *button : {beside, under}) {
         button->setIconSize({32, 32});
     }
