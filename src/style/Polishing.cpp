@@ -15,11 +15,12 @@
 #include "style/families/ToolBoxes.h"
 #include "style/families/Windows.h"
 
-#include <QtCore/QHash>
 #include <QtWidgets/QWidget>
 
 #include <algorithm>
 #include <iterator>
+#include <unordered_map>
+#include <vector>
 
 namespace TARN {
 
@@ -40,26 +41,6 @@ constexpr const char *marks[] = {
     "CardWidgetBase_Header",       "CardWidgetBase_Contents", "CardWidgetBase_Footer",
     "CardWidgetBase_Title",        "CardWidgetBase_Subtitle", "ButtonGroupWidget_Container",
     "ColorButtonWidget_Container", "roundedPixmap",           "Pill_Font"};
-
-bool declaresMark(const QMetaObject *type)
-{
-    // Looking for a property takes a walk through all properties of the class and its bases.
-    static QHash<const QMetaObject *, bool> known;
-    const auto found = known.constFind(type);
-    if (found != known.constEnd()) {
-        return *found;
-    }
-    const bool declares = std::any_of(std::begin(marks), std::end(marks), [type](const char *mark) {
-        return type->indexOfProperty(mark) >= 0;
-    });
-    known.insert(type, declares);
-    return declares;
-}
-
-bool mayBeMarked(const QWidget &widget)
-{
-    return !widget.dynamicPropertyNames().isEmpty() || declaresMark(widget.metaObject());
-}
 
 /// Stands for the class of every widget that has one of the marks.
 constexpr char marked[] = "";
@@ -105,16 +86,54 @@ constexpr Rule rules[] = {
     {nullptr, Windows::polishWindow},
 };
 
+/// What of the rules is the same for all widgets of a class.
+struct ClassRules
+{
+    std::vector<const Rule *> rules; ///< those that the class does not rule out, in order
+    bool declaresMark = false;
+};
+
+bool isMarkRule(const Rule &rule)
+{
+    return rule.className == marked;
+}
+
+ClassRules findClassRules(const QWidget &widget)
+{
+    ClassRules result;
+    for (const Rule &rule : rules) {
+        if (!rule.className || isMarkRule(rule) || isA(&widget, rule.className)) {
+            result.rules.push_back(&rule);
+        }
+    }
+    result.declaresMark = std::any_of(std::begin(marks), std::end(marks), [&](const char *mark) {
+        return widget.metaObject()->indexOfProperty(mark) >= 0;
+    });
+    return result;
+}
+
+const ClassRules &classRules(const QWidget &widget)
+{
+    // Comparing the names of a class and its bases with those of all rules takes longer than most
+    // rules themselves.
+    static std::unordered_map<const QMetaObject *, ClassRules> known;
+    auto found = known.find(widget.metaObject());
+    if (found == known.end()) {
+        found = known.emplace(widget.metaObject(), findClassRules(widget)).first;
+    }
+    return found->second;
+}
+
 } // namespace
 
 void polishWidget(BaseStyle &style, QWidget &widget)
 {
-    for (const Rule &rule : rules) {
-        const bool applies = rule.className == marked
-                                 ? mayBeMarked(widget)
-                                 : !rule.className || isA(&widget, rule.className);
+    const ClassRules &ofClass = classRules(widget);
+    for (const Rule *rule : ofClass.rules) {
+        const bool applies =
+            !isMarkRule(*rule) || ofClass.declaresMark || !widget.dynamicPropertyNames().isEmpty();
         if (applies) {
-            rule.apply(style, widget);
+            rule->apply(style, widget);
         }
     }
 }
