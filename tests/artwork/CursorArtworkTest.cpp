@@ -272,16 +272,16 @@ void CursorArtworkTest::badSourcesAreTold_data()
 {
     QTest::addColumn<QByteArray>("svg");
     QTest::addColumn<QString>("message");
-    const QByteArray head = "<svg xmlns=\"http://www.w3.org/2000/svg\" viewBox=\"0 0 32 32\">";
+    const QByteArray head = R"(<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 32 32">)";
     QTest::newRow("no SVG") << QByteArray("nonsense") << text("is no SVG file");
     QTest::newRow("empty") << QByteArray() << text("is no SVG file");
     QTest::newRow("other size")
-        << QByteArray("<svg xmlns=\"http://www.w3.org/2000/svg\" viewBox=\"0 0 24 24\"/>")
+        << QByteArray(R"(<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 24 24"/>)")
         << text("is not drawn on 32 x 32 units");
-    QTest::newRow("no hotspot") << head + "<rect width=\"4\" height=\"4\"/></svg>"
+    QTest::newRow("no hotspot") << head + R"(<rect width="4" height="4"/></svg>)"
                                 << text("has no element \"hotspot\"");
     QTest::newRow("hotspot outside")
-        << head + "<circle id=\"hotspot\" cx=\"32.5\" cy=\"3.5\" r=\".5\" fill=\"none\"/></svg>"
+        << head + R"(<circle id="hotspot" cx="32.5" cy="3.5" r=".5" fill="none"/></svg>)"
         << text("has its hotspot outside, at (32, 3)");
 }
 

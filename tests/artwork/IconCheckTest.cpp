@@ -12,9 +12,9 @@ const Palette palette = {{text("ink"), text("#E5EEF4")}, {text("red"), text("#E5
 
 QByteArray svg(const QByteArray &shapes, int side = 16)
 {
-    const QByteArray number = QByteArray::number(side);
-    return "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" + number + "\" height=\"" + number +
-           "\" viewBox=\"0 0 " + number + ' ' + number + "\" fill=\"#E5EEF4\">" + shapes + "</svg>";
+    const QByteArray form = R"(<svg xmlns="http://www.w3.org/2000/svg" width="%1" height="%1" )"
+                            R"(viewBox="0 0 %1 %1" fill="#E5EEF4">%2</svg>)";
+    return QString::fromLatin1(form).arg(side).arg(QString::fromLatin1(shapes)).toLatin1();
 }
 
 QString findings(const char *name, const QByteArray &file)
@@ -22,7 +22,7 @@ QString findings(const char *name, const QByteArray &file)
     return checkIcons({{text(name), file}}, palette).join(QLatin1Char('\n'));
 }
 
-const QByteArray square = "<rect x=\"3\" y=\"3\" width=\"10\" height=\"10\"/>";
+const QByteArray square = R"(<rect x="3" y="3" width="10" height="10"/>)";
 
 } // namespace
 
@@ -94,18 +94,19 @@ void IconCheckTest::colors()
     QFETCH(const QByteArray, color);
     QFETCH(const bool, isAllowed);
     const QByteArray file =
-        svg("<rect x=\"3\" y=\"3\" width=\"10\" height=\"10\" fill=\"" + color + "\"/>");
+        svg(QByteArray(R"(<rect x="3" y="3" width="10" height="10" fill="COLOR"/>)")
+                .replace("COLOR", color));
     QCOMPARE(findings(name.constData(), file).isEmpty(), isAllowed);
 }
 
 void IconCheckTest::elements_data()
 {
     QTest::addColumn<QByteArray>("shapes");
-    QTest::newRow("text") << QByteArray("<text x=\"3\" y=\"3\">A</text>");
+    QTest::newRow("text") << QByteArray(R"(<text x="3" y="3">A</text>)");
     QTest::newRow("group") << QByteArray("<g>" + square + "</g>");
-    QTest::newRow("image") << QByteArray("<image width=\"3\" height=\"3\"/>");
-    QTest::newRow("style") << QByteArray("<path style=\"fill:red\" d=\"M2 2h4v4z\"/>");
-    QTest::newRow("id") << QByteArray("<path id=\"path1\" d=\"M2 2h4v4z\"/>");
+    QTest::newRow("image") << QByteArray(R"(<image width="3" height="3"/>)");
+    QTest::newRow("style") << QByteArray(R"(<path style="fill:red" d="M2 2h4v4z"/>)");
+    QTest::newRow("id") << QByteArray(R"(<path id="path1" d="M2 2h4v4z"/>)");
 }
 
 void IconCheckTest::elements()
@@ -119,8 +120,8 @@ void IconCheckTest::coverage_data()
 {
     QTest::addColumn<QByteArray>("shapes");
     QTest::newRow("empty") << QByteArray();
-    QTest::newRow("too little") << QByteArray("<rect x=\"3\" y=\"3\" width=\"3\" height=\"4\"/>");
-    QTest::newRow("too much") << QByteArray("<rect x=\".5\" y=\".5\" width=\"15\" height=\"15\"/>");
+    QTest::newRow("too little") << QByteArray(R"(<rect x="3" y="3" width="3" height="4"/>)");
+    QTest::newRow("too much") << QByteArray(R"(<rect x=".5" y=".5" width="15" height="15"/>)");
 }
 
 void IconCheckTest::coverage()
@@ -131,18 +132,18 @@ void IconCheckTest::coverage()
 
 void IconCheckTest::edges()
 {
-    const QByteArray atEdge = "<rect x=\"0\" y=\"6\" width=\"6\" height=\"6\"/>";
+    const QByteArray atEdge = R"(<rect x="0" y="6" width="6" height="6"/>)";
     QVERIFY(findings("action.test", svg(atEdge)).contains(text("touches the edge")));
-    const QByteArray atMargin = "<rect x=\"1\" y=\"6\" width=\"14\" height=\"6\"/>";
+    const QByteArray atMargin = R"(<rect x="1" y="6" width="14" height="6"/>)";
     QVERIFY(!findings("action.test", svg(atMargin)).contains(text("touches the edge")));
 }
 
 void IconCheckTest::likenesses()
 {
     // A pixel more is 1 percent of the square, a row more 10 percent.
-    const QByteArray pixelMore = square + "<rect x=\"13\" y=\"3\" width=\"1\" height=\"1\"/>";
-    const QByteArray rowMore = square + "<rect x=\"3\" y=\"13\" width=\"10\" height=\"1\"/>";
-    const QByteArray red = "<rect x=\"3\" y=\"3\" width=\"10\" height=\"10\" fill=\"#E5484D\"/>";
+    const QByteArray pixelMore = square + R"(<rect x="13" y="3" width="1" height="1"/>)";
+    const QByteArray rowMore = square + R"(<rect x="3" y="13" width="10" height="1"/>)";
+    const QByteArray red = R"(<rect x="3" y="3" width="10" height="10" fill="#E5484D"/>)";
     const auto pair = [](const QByteArray &other) {
         return checkIcons({{text("status.one.colored"), svg(square)},
                            {text("status.two.colored"), svg(other)}},

@@ -59,7 +59,7 @@ public:
     [[nodiscard]] QByteArray svg(const char *name = "action.test") const
     {
         QStringList errors;
-        const QByteArray svg = library(&errors).icon(text(name), &errors);
+        QByteArray svg = library(&errors).icon(text(name), &errors);
         if (!errors.isEmpty()) {
             qFatal("%s", qPrintable(errors.join(QLatin1Char('\n'))));
         }

@@ -32,7 +32,8 @@ void IconModel::reload()
 {
     beginResetModel();
     // A theme's own icons come first and may have names of other kinds.
-    m_names = ThemeResources::getIcons(QRegularExpression("^[a-z]+\\.[a-z0-9.]+\\.[a-z]+$"_s));
+    m_names = ThemeResources::getIcons(
+        QRegularExpression(QStringLiteral(R"(^[a-z]+\.[a-z0-9.]+\.[a-z]+$)")));
     m_names.sort();
     m_icons.clear();
     endResetModel();

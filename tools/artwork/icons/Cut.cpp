@@ -55,7 +55,7 @@ std::vector<Piece> pieces(const QPainterPath &path)
     for (int i = 0; i < path.elementCount(); ++i) {
         const QPainterPath::Element element = path.elementAt(i);
         if (element.isMoveTo()) {
-            result.push_back(Piece());
+            result.emplace_back();
         } else if (element.isLineTo()) {
             result.back().push_back(straight(current, element));
         } else if (element.isCurveTo()) {
@@ -82,7 +82,7 @@ double edge(const Segment &segment, const QPainterPath &region, double low, doub
 void append(std::vector<Piece> *result, const Segment &segment)
 {
     if (result->empty() || result->back().back().points[3] != segment.points[0]) {
-        result->push_back(Piece());
+        result->emplace_back();
     }
     result->back().push_back(segment);
 }
