@@ -49,6 +49,7 @@ class GeometryTest : public QObject
     Q_OBJECT
 
 private:
+    static void compareCheckBoxRect(QStyle::SubElement element);
     /// Compares every rectangle of an item with that of the base style.
     void compareItemsWithFusion(const QWidget *widget, const QStyleOption &option);
 
@@ -92,24 +93,7 @@ void GeometryTest::checkBoxIndicator_data()
 
 void GeometryTest::checkBoxIndicator()
 {
-    QFETCH(bool, isSwitch);
-    QFETCH(QRect, rect);
-    QFETCH(Qt::LayoutDirection, direction);
-    QFETCH(QRect, expected);
-    const BaseStyle style;
-    QCheckBox checkBox;
-    checkBox.setProperty("switch", isSwitch);
-    QStyleOptionButton button;
-    button.rect = rect;
-    button.direction = direction;
-    QCOMPARE(style.subElementRect(QStyle::SE_CheckBoxIndicator, &button, &checkBox), expected);
-    QStyleOption plain;
-    plain.rect = rect;
-    plain.direction = direction;
-    QCOMPARE(style.subElementRect(QStyle::SE_CheckBoxIndicator, &plain, &checkBox), expected);
-    if (!isSwitch) {
-        QCOMPARE(style.subElementRect(QStyle::SE_CheckBoxIndicator, &plain, nullptr), expected);
-    }
+    compareCheckBoxRect(QStyle::SE_CheckBoxIndicator);
 }
 
 void GeometryTest::checkBoxContents_data()
@@ -133,6 +117,11 @@ void GeometryTest::checkBoxContents_data()
 
 void GeometryTest::checkBoxContents()
 {
+    compareCheckBoxRect(QStyle::SE_CheckBoxContents);
+}
+
+void GeometryTest::compareCheckBoxRect(QStyle::SubElement element)
+{
     QFETCH(bool, isSwitch);
     QFETCH(QRect, rect);
     QFETCH(Qt::LayoutDirection, direction);
@@ -143,9 +132,13 @@ void GeometryTest::checkBoxContents()
     QStyleOptionButton button;
     button.rect = rect;
     button.direction = direction;
-    QCOMPARE(style.subElementRect(QStyle::SE_CheckBoxContents, &button, &checkBox), expected);
+    QCOMPARE(style.subElementRect(element, &button, &checkBox), expected);
+    QStyleOption plain;
+    plain.rect = rect;
+    plain.direction = direction;
+    QCOMPARE(style.subElementRect(element, &plain, &checkBox), expected);
     if (!isSwitch) {
-        QCOMPARE(style.subElementRect(QStyle::SE_CheckBoxContents, &button, nullptr), expected);
+        QCOMPARE(style.subElementRect(element, &plain, nullptr), expected);
     }
 }
 
