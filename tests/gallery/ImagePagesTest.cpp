@@ -28,6 +28,8 @@ public:
     {
         m_page->resize(900, 600);
         m_page->show();
+        // It appears in an animation that the toolkit leaks when the button goes before its end.
+        search()->setClearButtonEnabled(false);
     }
 
     [[nodiscard]] QLineEdit *search() const { return m_page->findChild<QLineEdit *>(); }
