@@ -13,14 +13,14 @@ QString separatorMark()
     return QStringLiteral("separator");
 }
 
-/// The line goes across the whole list, not only the entry.
+/// The line is as long as the list is wide, whatever the width of the entry.
 QRect separatorRect(const QStyleOptionViewItem &option)
 {
-    const auto *view = qobject_cast<const QAbstractItemView *>(option.widget);
-    if (!view) {
-        return option.rect;
+    QRect rect = option.rect;
+    if (const auto *view = qobject_cast<const QAbstractItemView *>(option.widget)) {
+        rect.setWidth(view->viewport()->width());
     }
-    return {0, option.rect.y(), view->viewport()->width(), option.rect.height()};
+    return rect;
 }
 
 } // namespace

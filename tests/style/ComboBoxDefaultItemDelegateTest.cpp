@@ -243,7 +243,7 @@ private Q_SLOTS:
         QCOMPARE(line.element, QStyle::PE_IndicatorToolBarSeparator);
         QCOMPARE(line.version, 1);
         QCOMPARE(line.type, int(QStyleOption::SO_Default));
-        QCOMPARE(line.rect, QRect(0, rect.y(), view.viewport()->width(), rect.height()));
+        QCOMPARE(line.rect, QRect(rect.x(), rect.y(), view.viewport()->width(), rect.height()));
         QCOMPARE(line.widget, &combo);
     }
 
