@@ -130,6 +130,7 @@ private:
     void filterWidgetEvent(QWidget &widget, const QEvent &event);
     void pressAlt(const QWidget &window);
     void releaseAlt(const QWidget &window);
+    void forgetAlt(const QWidget &window);
 
     QPalette m_palette;
     QBrush m_expanderHeaderBrush;

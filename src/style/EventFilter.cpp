@@ -58,8 +58,8 @@ void BaseStyle::filterWidgetEvent(QWidget &widget, const QEvent &event)
         }
         break;
     case QEvent::Close:
-        m_seenAlt.removeAll(&widget);
-        m_seenAlt.removeAll(widget.window());
+        forgetAlt(widget);
+        forgetAlt(*widget.window());
         break;
     default:
         break;
@@ -75,6 +75,13 @@ void BaseStyle::pressAlt(const QWidget &window)
                 [this, address = &window] { m_seenAlt.removeAll(address); });
     }
     updateMnemonics(window);
+}
+
+void BaseStyle::forgetAlt(const QWidget &window)
+{
+    if (m_seenAlt.removeAll(&window) > 0) {
+        disconnect(&window, &QObject::destroyed, this, nullptr);
+    }
 }
 
 void BaseStyle::releaseAlt(const QWidget &window)
