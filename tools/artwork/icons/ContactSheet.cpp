@@ -1,9 +1,8 @@
 #include "icons/ContactSheet.h"
 
 #include "icons/Drawing.h"
+#include "icons/Rendering.h"
 
-#include <QtCore/QBuffer>
-#include <QtGui/QImageReader>
 #include <QtGui/QPainter>
 
 namespace TARN::Artwork {
@@ -13,13 +12,9 @@ namespace {
 constexpr int Margin = 8;
 constexpr int TextHeight = 26;
 
-QImage rendered(QByteArray svg, const QColor &ink, int side)
+QImage inked(QByteArray svg, const QColor &ink, int side)
 {
-    svg.replace("#E5EEF4", ink.name().toLatin1());
-    QBuffer buffer(&svg);
-    QImageReader reader(&buffer, "svg");
-    reader.setScaledSize(QSize(side, side));
-    return reader.read();
+    return rendered(svg.replace("#E5EEF4", ink.name().toLatin1()), side);
 }
 
 QSize cellSize(const SheetLook &look)
@@ -46,14 +41,14 @@ void drawIcon(QPainter *painter, const QString &name, const QByteArray &svg, con
 {
     const int size = gridSize(name);
     if (!look.large) {
-        const QImage image = rendered(svg, look.ink, size);
+        const QImage image = inked(svg, look.ink, size);
         painter->drawImage(cell.center().x() - size / 2, cell.top() + (32 - size) / 2, image);
         return;
     }
-    const QImage enlarged = rendered(svg, look.ink, size).scaled(QSize(64, 64));
+    const QImage enlarged = inked(svg, look.ink, size).scaled(QSize(64, 64));
     painter->drawImage(cell.left() + Margin, cell.top() + Margin, enlarged);
     painter->drawImage(cell.left() + 64 + 2 * Margin, cell.top() + Margin,
-                       rendered(svg, look.ink, 64));
+                       inked(svg, look.ink, 64));
 }
 
 } // namespace

@@ -1,11 +1,10 @@
 #include "icons/IconCheck.h"
 
 #include "icons/Drawing.h"
+#include "icons/Rendering.h"
 
-#include <QtCore/QBuffer>
 #include <QtCore/QRegularExpression>
 #include <QtGui/QImage>
-#include <QtGui/QImageReader>
 
 #include <algorithm>
 #include <cmath>
@@ -19,15 +18,6 @@ constexpr double MostCoverage = 0.80;
 constexpr double LeastDifference = 0.03;
 // What antialiasing leaves of a line that ends at the margin can't be seen.
 constexpr int VisibleAlpha = 16;
-
-QImage rendered(const QByteArray &svg, int side)
-{
-    QByteArray data = svg;
-    QBuffer buffer(&data);
-    QImageReader reader(&buffer, "svg");
-    reader.setScaledSize(QSize(side, side));
-    return reader.read().convertToFormat(QImage::Format_ARGB32_Premultiplied);
-}
 
 const QRgb *pixels(const QImage &image)
 {
