@@ -12,6 +12,7 @@ set(MOX_INSTALL_INCLUDEDIR "${CMAKE_INSTALL_INCLUDEDIR}/mox_common_theme")
 
 # Headers lie beside their sources; these are the public ones.
 foreach(header IN ITEMS
+    common_utils/Contrast.h
     common_utils/Helpers.h
     readers/BrushReader.h
     readers/LinearGradientBrushReader.h

@@ -1,3 +1,4 @@
+#include <common_utils/Contrast.h>
 #include <theme/Theme.h>
 #include <theme/ThemeFactory.h>
 
@@ -8,10 +9,10 @@
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QStyle>
 
-#include <support/Contrast.h>
 #include <support/Text.h>
 
 using TARN::ThemeFactory;
+using TARN::Helpers::contrastRatio;
 
 namespace {
 

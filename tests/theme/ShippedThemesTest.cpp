@@ -1,3 +1,4 @@
+#include <common_utils/Contrast.h>
 #include <readers/QPaletteReader.h>
 #include <readers/ThemeConfigurationReader.h>
 #include <resources/ThemeResources.h>
@@ -15,7 +16,6 @@
 #include <QtWidgets/QStyle>
 
 #include <algorithm>
-#include <support/Contrast.h>
 
 using TARN::BaseThemeSettings;
 using TARN::QPaletteReader;
@@ -23,6 +23,8 @@ using TARN::ThemeConfigurationReader;
 using TARN::ThemeFactory;
 using TARN::ThemeFont;
 using TARN::ThemeResources;
+using TARN::Helpers::contrastRatio;
+using TARN::Helpers::relativeLuminance;
 
 namespace {
 

@@ -1,8 +1,8 @@
-#include "Contrast.h"
-
-#include <QtCore/QtGlobal>
+#include "common_utils/Contrast.h"
 
 #include <cmath>
+
+namespace TARN::Helpers {
 
 double relativeLuminance(const QColor &color)
 {
@@ -19,3 +19,5 @@ double contrastRatio(const QColor &first, const QColor &second)
     const double b = relativeLuminance(second);
     return (qMax(a, b) + 0.05) / (qMin(a, b) + 0.05);
 }
+
+} // namespace TARN::Helpers
