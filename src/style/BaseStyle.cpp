@@ -7,6 +7,7 @@
 #include "style/Metrics.h"
 #include "style/Mnemonics.h"
 #include "style/Polishing.h"
+#include "style/catalogue/Names.h"
 #include "style/families/ItemViews.h"
 
 #include <QtWidgets/QStyleOption>
@@ -30,15 +31,13 @@ QString variableName(QString name, bool enabled)
     return name;
 }
 
-/// Returns the brush that \a Name names, resolved once for each state. Each instance of this
-/// template keeps the two brushes of one name.
-template <const char *Name>
+/// Returns the brush \a Name, resolved once for each state. Each instance of this template keeps
+/// the two brushes of one name.
+template <BrushName Name>
 const QBrush &keptBrush(bool enabled)
 {
-    static ProcessCached<QBrush> enabledBrush(
-        [] { return BaseStyle::getBrush(QLatin1String(Name), true); });
-    static ProcessCached<QBrush> disabledBrush(
-        [] { return BaseStyle::getBrush(QLatin1String(Name), false); });
+    static ProcessCached<QBrush> enabledBrush([] { return themeBrush(Name, true); });
+    static ProcessCached<QBrush> disabledBrush([] { return themeBrush(Name, false); });
     return enabled ? enabledBrush.value() : disabledBrush.value();
 }
 
@@ -55,16 +54,13 @@ void replaceDelegates(const BaseStyle &style)
     }
 }
 
-constexpr char cardBorder[] = "CardBorderBrush";
-constexpr char grooveBackground[] = "GrooveBackgroundBrush";
-
 } // namespace
 
 BaseStyle::BaseStyle()
     : QProxyStyle(QStringLiteral("fusion"))
     , m_palette(baseStyle()->standardPalette())
-    , m_expanderHeaderBrush(getBrush(QStringLiteral("ExpanderHeaderBrush"), true))
-    , m_backgroundBrush(getBrush(QStringLiteral("BackgroundBrush"), true))
+    , m_expanderHeaderBrush(themeBrush(BrushName::ExpanderHeaderBrush, true))
+    , m_backgroundBrush(themeBrush(BrushName::BackgroundBrush, true))
 {
 }
 
@@ -207,12 +203,12 @@ QColor BaseStyle::getColor(QString name, bool enabled)
 
 const QBrush &BaseStyle::getBorderBrush(bool enabled)
 {
-    return keptBrush<cardBorder>(enabled);
+    return keptBrush<BrushName::CardBorderBrush>(enabled);
 }
 
 const QBrush &BaseStyle::grooveBackgroundBrush(bool enabled) const
 {
-    return keptBrush<grooveBackground>(enabled);
+    return keptBrush<BrushName::GrooveBackgroundBrush>(enabled);
 }
 
 int BaseStyle::getButtonBackgroundState(const QStyleOption &opt) const

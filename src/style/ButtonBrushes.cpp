@@ -1,7 +1,8 @@
 #include "style/BaseStyle.h"
 #include "style/Properties.h"
+#include "style/catalogue/Names.h"
+#include "style/catalogue/Words.h"
 
-#include <QtCore/QStringBuilder>
 #include <QtGui/QCursor>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QComboBox>
@@ -33,6 +34,11 @@ bool isEditorFocused(const QComboBox &comboBox)
     return editor && editor->hasFocus();
 }
 
+QString uncheckedHover()
+{
+    return Words::unchecked + Words::hover;
+}
+
 /// Chooses the brushes of one button, or of the button-like part of an input: first by name from
 /// what the button is and its state, then by the exceptions that some kinds of buttons make.
 class ButtonBrushChooser
@@ -50,13 +56,13 @@ private:
     QString toggleWord() const;
     QString kindWord() const;
     QString stateWord() const;
-    QString checkWord() const;
+    QLatin1String checkWord() const;
     bool menuArrowPressed() const;
 
     QBrush brush(const QString &name) const { return BaseStyle::getBrush(name, m_enabled); }
     QBrush buttonBrush(QLatin1String field) const;
     QBrush inputBrush(QLatin1String field) const;
-    QBrush mainBrush() const { return brush(QStringLiteral("MainBrush")); }
+    QBrush mainBrush() const { return themeBrush(BrushName::MainBrush, m_enabled); }
     const QBrush &cardBorderBrush() const;
 
     void chooseByName();
@@ -112,7 +118,7 @@ bool ButtonBrushChooser::hasFeature(QStyleOptionButton::ButtonFeature feature) c
 
 QString ButtonBrushChooser::toggleWord() const
 {
-    return isSet(m_widget, "checkable") ? QStringLiteral("Toggle") : QString();
+    return isSet(m_widget, "checkable") ? QString(Words::toggle) : QString();
 }
 
 QString ButtonBrushChooser::kindWord() const
@@ -121,7 +127,7 @@ QString ButtonBrushChooser::kindWord() const
         return {};
     }
     if (isSet(m_widget, "highlighted")) {
-        return QStringLiteral("Highlighted");
+        return Words::highlighted;
     }
     for (const char *property : {"Status", "Order", "ButtonType"}) {
         QString kind = m_widget->property(property).toString();
@@ -137,26 +143,24 @@ QString ButtonBrushChooser::stateWord() const
     const bool calendarButton =
         m_widget && m_widget->objectName().contains(QLatin1String("qt_calendar_"));
     if ((calendarButton && !has(QStyle::State_Sunken)) || menuArrowPressed()) {
-        return QStringLiteral("UncheckedHover");
+        return uncheckedHover();
     }
     if (has(QStyle::State_Sunken)) {
-        return checkWord() + QLatin1String("Pressed");
+        return checkWord() + Words::pressed;
     }
-    return hovered() ? checkWord() + QLatin1String("Hover") : checkWord();
+    return hovered() ? checkWord() + Words::hover : checkWord();
 }
 
-QString ButtonBrushChooser::checkWord() const
+QLatin1String ButtonBrushChooser::checkWord() const
 {
-    const QString checked = QStringLiteral("Checked");
-    const QString unchecked = QStringLiteral("Unchecked");
     if (isSet(m_widget, "blinking")) {
-        return isSet(m_widget, "blink_checked") ? checked : unchecked;
+        return isSet(m_widget, "blink_checked") ? Words::checked : Words::unchecked;
     }
     if (hasFeature(QStyleOptionButton::DefaultButton) && has(QStyle::State_Enabled) &&
         has(QStyle::State_Active)) {
-        return QStringLiteral("Default");
+        return Words::isDefault;
     }
-    return has(QStyle::State_On) ? checked : unchecked;
+    return has(QStyle::State_On) ? Words::checked : Words::unchecked;
 }
 
 /// Pressing the menu arrow of a tool button leaves its face looking merely hovered.
@@ -174,12 +178,12 @@ bool ButtonBrushChooser::menuArrowPressed() const
 
 QBrush ButtonBrushChooser::buttonBrush(QLatin1String field) const
 {
-    return brush(m_toggle % QLatin1String("Button") % m_kind % m_state % field);
+    return brush(Words::buttonBrush(m_toggle, m_kind, m_state, field));
 }
 
 QBrush ButtonBrushChooser::inputBrush(QLatin1String field) const
 {
-    return brush(QLatin1String("Input") % m_kind % m_state % field);
+    return brush(Words::inputBrush(m_kind, m_state, field));
 }
 
 const QBrush &ButtonBrushChooser::cardBorderBrush() const
@@ -189,9 +193,9 @@ const QBrush &ButtonBrushChooser::cardBorderBrush() const
 
 void ButtonBrushChooser::chooseByName()
 {
-    m_brushes.background = buttonBrush(QLatin1String("BackgroundBrush"));
-    m_brushes.border = buttonBrush(QLatin1String("BorderBrush"));
-    m_brushes.foreground = buttonBrush(QLatin1String("ForegroundBrush"));
+    m_brushes.background = buttonBrush(Words::background);
+    m_brushes.border = buttonBrush(Words::border);
+    m_brushes.foreground = buttonBrush(Words::foreground);
 }
 
 void ButtonBrushChooser::chooseForFlatButton()
@@ -200,10 +204,10 @@ void ButtonBrushChooser::chooseForFlatButton()
         return;
     }
     m_brushes.border = m_brushes.background;
-    const bool prominent = isSet(m_widget, "highlighted") || m_kind == QLatin1String("Borea");
+    const bool prominent = isSet(m_widget, "highlighted") || m_kind == Words::borea;
     if (prominent && has(QStyle::State_Sunken)) {
-        m_brushes.foreground =
-            brush(QStringLiteral("ButtonHighlightedUncheckedHoverForegroundBrush"));
+        m_brushes.foreground = brush(
+            Words::buttonBrush(QString(), Words::highlighted, uncheckedHover(), Words::foreground));
     }
 }
 
@@ -213,8 +217,8 @@ void ButtonBrushChooser::chooseForOutlineButton()
         return;
     }
     if (hovered() && has(QStyle::State_On) && !has(QStyle::State_Sunken)) {
-        m_brushes.border = brush(QLatin1String("Button") % m_kind %
-                                 QLatin1String("UncheckedHoverBackgroundBrush"));
+        m_brushes.border =
+            brush(Words::buttonBrush(QString(), m_kind, uncheckedHover(), Words::background));
         return;
     }
     m_brushes.border = m_brushes.background;
@@ -237,27 +241,28 @@ void ButtonBrushChooser::chooseForInput()
 
 void ButtonBrushChooser::chooseForCalendarEdit(const QDateTimeEdit &edit)
 {
-    m_brushes.background = inputBrush(QLatin1String("BackgroundBrush"));
+    m_brushes.background = inputBrush(Words::background);
     if (!edit.hasFrame()) {
         m_brushes.border = m_brushes.background;
     } else {
-        m_brushes.border = edit.hasFocus() ? mainBrush() : inputBrush(QLatin1String("BorderBrush"));
+        m_brushes.border = edit.hasFocus() ? mainBrush() : inputBrush(Words::border);
     }
 }
 
 void ButtonBrushChooser::chooseForSpinBox()
 {
     // Spin boxes show no hover shade: only their buttons do.
-    m_brushes.background = hovered() ? brush(QStringLiteral("InputUncheckedBackgroundBrush"))
-                                     : inputBrush(QLatin1String("BackgroundBrush"));
+    m_brushes.background =
+        hovered() ? brush(Words::inputBrush(QString(), Words::unchecked, Words::background))
+                  : inputBrush(Words::background);
     m_brushes.border = m_brushes.background;
 }
 
 void ButtonBrushChooser::chooseForComboBox(const QComboBox &comboBox)
 {
-    m_brushes.background = inputBrush(QLatin1String("BackgroundBrush"));
-    m_brushes.border = inputBrush(QLatin1String("BorderBrush"));
-    m_brushes.foreground = inputBrush(QLatin1String("ForegroundBrush"));
+    m_brushes.background = inputBrush(Words::background);
+    m_brushes.border = inputBrush(Words::border);
+    m_brushes.foreground = inputBrush(Words::foreground);
     if (!comboBox.hasFrame()) {
         m_brushes.border = m_brushes.background;
     } else if (isPopupVisible(comboBox)) {
@@ -292,11 +297,12 @@ void ButtonBrushChooser::chooseForWorkflowButton()
     }
     if (isSet(m_parent, "ButtonGroupWidget_Exclusive")) {
         if (isSet(m_widget, "checked")) {
-            m_brushes.foreground = m_brushes.border = brush(QStringLiteral("ForegroundBrush"));
+            m_brushes.foreground = m_brushes.border =
+                themeBrush(BrushName::ForegroundBrush, m_enabled);
         } else {
             // The text of a step that is not the current one is as faint as its border.
             m_brushes.foreground =
-                brush(QLatin1String("Button") % m_kind % m_state % QLatin1String("BorderBrush"));
+                brush(Words::buttonBrush(QString(), m_kind, m_state, Words::border));
         }
     }
     if (has(QStyle::State_MouseOver) && !has(QStyle::State_Sunken)) {

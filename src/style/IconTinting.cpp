@@ -3,6 +3,8 @@
 #include "resources/ThemeColorHelper.h"
 #include "resources/ThemeResources.h"
 #include "style/BaseStyle.h"
+#include "style/catalogue/Names.h"
+#include "style/catalogue/Words.h"
 
 #include <QtGui/QPalette>
 #include <QtWidgets/QAction>
@@ -60,11 +62,18 @@ void tintClearButton(QToolButton &button)
     if (isOfAnAddedAction(button)) {
         return;
     }
-    const QBrush tint(isHovered(button) ? ThemeResources::getColor(QStringLiteral("MainColor"))
+    const QBrush tint(isHovered(button) ? themeColor(ColorName::MainColor, true)
                                         : button.palette().color(QPalette::WindowText));
     if (!isTinted(button, tint)) {
         setTintedIcon(button, QIcon::fromTheme(QStringLiteral("action.close")), tint);
     }
+}
+
+/// Returns the name of the brush that draws the text of a plain button under the mouse.
+QString hoveredForeground()
+{
+    return Words::buttonBrush(QString(), QString(), Words::unchecked + Words::hover,
+                              Words::foreground);
 }
 
 void tintCommandLink(QCommandLinkButton &button)
@@ -76,10 +85,8 @@ void tintCommandLink(QCommandLinkButton &button)
         button.setProperty(originalIconProperty, button.icon());
     }
     const bool isHighlighted = !button.isChecked() && !button.isDown() && isHovered(button);
-    const QBrush tint =
-        isHighlighted
-            ? BaseStyle::getBrush(QStringLiteral("ButtonUncheckedHoverForegroundBrush"), true)
-            : button.palette().buttonText();
+    const QBrush tint = isHighlighted ? BaseStyle::getBrush(hoveredForeground(), true)
+                                      : button.palette().buttonText();
     if (!isTinted(button, tint)) {
         setTintedIcon(button, button.property(originalIconProperty).value<QIcon>(), tint);
     }

@@ -2,6 +2,7 @@
 
 #include "style/BaseStyle.h"
 #include "style/Properties.h"
+#include "style/catalogue/Names.h"
 
 #include <QtGui/QFontMetrics>
 #include <QtWidgets/QStyleOption>
@@ -80,7 +81,7 @@ int never(const QStyleOption * /*option*/, QStyleHintReturn * /*returnData*/)
 int gridLineColor(const QStyleOption *option, QStyleHintReturn * /*returnData*/)
 {
     const bool enabled = !option || option->state.testFlag(QStyle::State_Enabled);
-    const QColor color = BaseStyle::getColor(QStringLiteral("BackgroundSubLevel1Color"), enabled);
+    const QColor color = themeColor(ColorName::BackgroundSubLevel1Color, enabled);
     return static_cast<int>(color.rgba());
 }
 

@@ -3,6 +3,7 @@
 #include "resources/ThemeColorHelper.h"
 #include "resources/ThemeResources.h"
 #include "style/BaseStyle.h"
+#include "style/catalogue/Names.h"
 
 #include <QtGui/QImage>
 #include <QtGui/QPixmap>
@@ -93,7 +94,7 @@ QIcon highlightedIcon(const QStyleOption *option, const QWidget *widget)
         return {};
     }
     const bool enabled = !option || option->state.testFlag(QStyle::State_Enabled);
-    const QBrush tint = BaseStyle::getBrush(QStringLiteral("MainBrush"), enabled);
+    const QBrush tint = themeBrush(BrushName::MainBrush, enabled);
     for (const HighlightRow &row : highlightTable) {
         if (name == QLatin1String(row.name)) {
             return Helpers::getModifiedIconWithForegroundBrush(QIcon::fromTheme(name),
@@ -155,7 +156,7 @@ QPixmap BaseStyle::generatedIconPixmap(QIcon::Mode mode, const QPixmap &pixmap,
     if (mode != QIcon::Disabled || !option || !qobject_cast<QLabel *>(option->styleObject)) {
         return pixmap;
     }
-    const QBrush tint = ThemeResources::getBrush(QStringLiteral("ForegroundBrushDisabled"));
+    const QBrush tint = themeBrush(BrushName::ForegroundBrush, false);
     const QIcon icon = ThemeColorHelper::getModifiedIconWithForegroundBrush(QIcon(pixmap), tint);
     const qreal ratio = pixmap.devicePixelRatio();
     return icon.pixmap(QSize(int(pixmap.width() / ratio), int(pixmap.height() / ratio)));

@@ -4,6 +4,7 @@
 #include "style/BaseStyle.h"
 #include "style/Polishing.h"
 #include "style/Properties.h"
+#include "style/catalogue/Names.h"
 
 #include <QtWidgets/QWidget>
 
@@ -34,18 +35,19 @@ void polishSubtitle(BaseStyle & /*style*/, QWidget &widget)
     if (!isSet(&widget, "CardWidgetBase_Subtitle")) {
         return;
     }
-    const QString brush = QStringLiteral("ForegroundDisabledBrush");
     QPalette palette = widget.palette();
-    palette.setBrush(QPalette::All, QPalette::WindowText, BaseStyle::getBrush(brush, true));
-    palette.setBrush(QPalette::Disabled, QPalette::WindowText, BaseStyle::getBrush(brush, false));
+    palette.setBrush(QPalette::All, QPalette::WindowText,
+                     themeBrush(BrushName::ForegroundDisabledBrush, true));
+    palette.setBrush(QPalette::Disabled, QPalette::WindowText,
+                     themeBrush(BrushName::ForegroundDisabledBrush, false));
     widget.setPalette(palette);
 }
 
 void polishCard(BaseStyle & /*style*/, QWidget &widget)
 {
-    const QString brush = QStringLiteral("ForegroundMouseOverBrush");
-    widget.setProperty("BackgroundBrush", BaseStyle::getBrush(brush, true));
-    widget.setProperty("BackgroundBrushDisabled", BaseStyle::getBrush(brush, false));
+    widget.setProperty("BackgroundBrush", themeBrush(BrushName::ForegroundMouseOverBrush, true));
+    widget.setProperty("BackgroundBrushDisabled",
+                       themeBrush(BrushName::ForegroundMouseOverBrush, false));
 }
 
 } // namespace TARN::Cards

@@ -4,6 +4,7 @@
 #include "style/BaseStyle.h"
 #include "style/Polishing.h"
 #include "style/Properties.h"
+#include "style/catalogue/Names.h"
 
 #include <QtGui/QPixmap>
 #include <QtWidgets/QWidget>
@@ -12,26 +13,30 @@ namespace TARN::Components {
 
 namespace {
 
-constexpr int seriesColorCount = 11;
+constexpr ColorName seriesColorNames[] = {
+    ColorName::Series01Color, ColorName::Series02Color, ColorName::Series03Color,
+    ColorName::Series04Color, ColorName::Series05Color, ColorName::Series06Color,
+    ColorName::Series07Color, ColorName::Series08Color, ColorName::Series09Color,
+    ColorName::Series10Color, ColorName::Series11Color,
+};
 
-/// Hands \a widget the brush \a variable and its disabled twin.
-void setBrushes(QWidget &widget, const QByteArray &property, const QString &variable)
+/// Hands \a widget \a brush and its disabled twin.
+void setBrushes(QWidget &widget, const QByteArray &property, BrushName brush)
 {
-    widget.setProperty(property.constData(), BaseStyle::getBrush(variable, true));
-    widget.setProperty((property + "Disabled").constData(), BaseStyle::getBrush(variable, false));
+    widget.setProperty(property.constData(), themeBrush(brush, true));
+    widget.setProperty((property + "Disabled").constData(), themeBrush(brush, false));
 }
 
-void setColor(QWidget &widget, const char *property, const QString &variable)
+void setColor(QWidget &widget, const char *property, ColorName color)
 {
-    widget.setProperty(property, BaseStyle::getColor(variable, true));
+    widget.setProperty(property, themeColor(color, true));
 }
 
 QList<QColor> seriesColors()
 {
     QList<QColor> colors;
-    for (int number = 1; number <= seriesColorCount; ++number) {
-        colors.append(ThemeResources::getColor(
-            QStringLiteral("Series%1Color").arg(number, 2, 10, QLatin1Char('0'))));
+    for (const ColorName color : seriesColorNames) {
+        colors.append(themeColor(color, true));
     }
     return colors;
 }
@@ -49,9 +54,9 @@ void polishContainer(BaseStyle & /*style*/, QWidget &widget)
 
 void polishButtonGroup(BaseStyle & /*style*/, QWidget &widget)
 {
-    setBrushes(widget, "BackgroundBrush", QStringLiteral("ListBackgroundBrush"));
-    setBrushes(widget, "BorderBrush", QStringLiteral("ListBorderBrush"));
-    setBrushes(widget, "WorkflowLinkBrush", QStringLiteral("PrioritySecondaryUpLevel1Brush"));
+    setBrushes(widget, "BackgroundBrush", BrushName::ListBackgroundBrush);
+    setBrushes(widget, "BorderBrush", BrushName::ListBorderBrush);
+    setBrushes(widget, "WorkflowLinkBrush", BrushName::PrioritySecondaryUpLevel1Brush);
 }
 
 void polishRoundedPixmap(BaseStyle & /*style*/, QWidget &widget)
@@ -60,8 +65,7 @@ void polishRoundedPixmap(BaseStyle & /*style*/, QWidget &widget)
     if (pixmap.userType() != QMetaType::QPixmap || pixmap.value<QPixmap>().isNull()) {
         return;
     }
-    widget.setProperty("BorderBrush",
-                       BaseStyle::getBrush(QStringLiteral("BackgroundSubLevel1Brush"), true));
+    widget.setProperty("BorderBrush", themeBrush(BrushName::BackgroundSubLevel1Brush, true));
     widget.setProperty("CornerRadius",
                        ThemeResources::getCornerRadius(QStringLiteral("MediumSize")));
 }
@@ -78,14 +82,13 @@ void polishPill(BaseStyle & /*style*/, QWidget &widget)
 
 void polishPeriodicTable(BaseStyle & /*style*/, QWidget &widget)
 {
-    const QString background = QStringLiteral("StatusConfigColor");
-    setColor(widget, "PeriodicTableDelegate_BackgroundColor", background);
-    setColor(widget, "PeriodicTableDelegate_BorderColor", background);
-    setColor(widget, "PeriodicTableDelegate_ForegroundColor", QStringLiteral("ForegroundColor"));
+    setColor(widget, "PeriodicTableDelegate_BackgroundColor", ColorName::StatusConfigColor);
+    setColor(widget, "PeriodicTableDelegate_BorderColor", ColorName::StatusConfigColor);
+    setColor(widget, "PeriodicTableDelegate_ForegroundColor", ColorName::ForegroundColor);
     setColor(widget, "PeriodicTableDelegate_ForegroundSubLevelColor",
-             QStringLiteral("ForegroundSubLevel1Color"));
+             ColorName::ForegroundSubLevel1Color);
     setColor(widget, "PeriodicTableDelegate_ForegroundUpLevelColor",
-             QStringLiteral("ForegroundUpLevel1Color"));
+             ColorName::ForegroundUpLevel1Color);
     widget.setProperty("PeriodicTableDelegate_ColorList", QVariant::fromValue(seriesColors()));
 }
 

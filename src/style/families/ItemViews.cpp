@@ -4,6 +4,7 @@
 #include "style/BaseStyle.h"
 #include "style/Geometry.h"
 #include "style/Properties.h"
+#include "style/catalogue/Names.h"
 
 #include <QtWidgets/QListView>
 
@@ -66,10 +67,11 @@ void polishPalette(BaseStyle & /*style*/, QWidget &widget)
     if (isSet(&widget, "customItemViewPalette")) {
         return;
     }
-    const QString brush = QStringLiteral("ItemViewBackgroundBrush");
     QPalette palette = widget.palette();
-    palette.setBrush(QPalette::All, QPalette::Base, BaseStyle::getBrush(brush, true));
-    palette.setBrush(QPalette::Disabled, QPalette::Base, BaseStyle::getBrush(brush, false));
+    palette.setBrush(QPalette::All, QPalette::Base,
+                     themeBrush(BrushName::ItemViewBackgroundBrush, true));
+    palette.setBrush(QPalette::Disabled, QPalette::Base,
+                     themeBrush(BrushName::ItemViewBackgroundBrush, false));
     widget.setPalette(palette);
 }
 

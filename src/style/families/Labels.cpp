@@ -1,6 +1,7 @@
 #include "style/families/Labels.h"
 
 #include "style/BaseStyle.h"
+#include "style/catalogue/Names.h"
 
 #include <QtWidgets/QWidget>
 
@@ -10,7 +11,7 @@ void polishDisabledText(BaseStyle & /*style*/, QWidget &widget)
 {
     QPalette palette = widget.palette();
     palette.setBrush(QPalette::Disabled, QPalette::WindowText,
-                     BaseStyle::getBrush(QStringLiteral("ForegroundBrush"), false));
+                     themeBrush(BrushName::ForegroundBrush, false));
     widget.setPalette(palette);
 }
 

@@ -4,6 +4,7 @@
 #include "style/BaseStyle.h"
 #include "style/Geometry.h"
 #include "style/Properties.h"
+#include "style/catalogue/Names.h"
 
 #include <QtWidgets/QSlider>
 #include <QtWidgets/QStyleOption>
@@ -15,20 +16,21 @@ namespace {
 struct RangeSliderBrush
 {
     const char *property;
-    const char *variable;
+    BrushName brush;
+    bool enabled;
 };
 
 constexpr RangeSliderBrush rangeSliderBrushes[] = {
-    {"SunkenBrush", "SliderThumbNailPressedBrush"},
-    {"HoverBrush", "SliderThumbNailHoverBrush"},
-    {"DefaultBrush", "InputForegroundBrush"},
-    {"DefaultBrushDisabled", "InputForegroundBrushDisabled"},
-    {"BackgroundBrush", "InputBackgroundBrush"},
-    {"BackgroundBrushDisabled", "InputBackgroundBrushDisabled"},
-    {"BorderBrush", "InputBorderBrush"},
-    {"BorderBrushDisabled", "InputBorderBrushDisabled"},
-    {"RangeBrush", "MainBrush"},
-    {"RangeBrushDisabled", "MainBrushDisabled"},
+    {"SunkenBrush", BrushName::SliderThumbNailPressedBrush, true},
+    {"HoverBrush", BrushName::SliderThumbNailHoverBrush, true},
+    {"DefaultBrush", BrushName::InputForegroundBrush, true},
+    {"DefaultBrushDisabled", BrushName::InputForegroundBrush, false},
+    {"BackgroundBrush", BrushName::InputBackgroundBrush, true},
+    {"BackgroundBrushDisabled", BrushName::InputBackgroundBrush, false},
+    {"BorderBrush", BrushName::InputBorderBrush, true},
+    {"BorderBrushDisabled", BrushName::InputBorderBrush, false},
+    {"RangeBrush", BrushName::MainBrush, true},
+    {"RangeBrushDisabled", BrushName::MainBrush, false},
 };
 
 int metric(const BaseStyle &style, QStyle::PixelMetric metric, const SubControlRequest &request)
@@ -120,9 +122,8 @@ void polishRangeSlider(BaseStyle & /*style*/, QWidget &widget)
     widget.setProperty("invertedControls", false);
     widget.setProperty("tracking", true);
     widget.setProperty("tickPosition", 0);
-    for (const RangeSliderBrush &brush : rangeSliderBrushes) {
-        widget.setProperty(brush.property,
-                           BaseStyle::getBrush(QString::fromLatin1(brush.variable), true));
+    for (const RangeSliderBrush &row : rangeSliderBrushes) {
+        widget.setProperty(row.property, themeBrush(row.brush, row.enabled));
     }
     widget.setProperty("CornerRadius", ThemeResources::getCornerRadius(QStringLiteral("BaseSize")));
 }

@@ -1,0 +1,63 @@
+#pragma once
+
+#include <mox_common_theme_export.h>
+
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+#include <QtCore/QVector>
+
+namespace TARN {
+
+/// How a theme variable is seen.
+enum class VariableRole {
+    Surface,    ///< fills what other things lie on
+    Text,       ///< must have a contrast of 4.5:1 to its surfaces, disabled text one of 2:1
+    Graphic,    ///< icons, marks, handles: 3:1
+    Outline,    ///< lines without which a control is not recognised: 3:1
+    Decoration, ///< lines that only please the eye
+    Value       ///< is no colour
+};
+
+/// A theme variable that the library can ask for.
+struct Variable
+{
+    QString group; ///< as ThemeResources names the groups: "brushes", "colors" ...
+    QString name;
+    bool hasDisabledTwin; ///< whether name + "Disabled" is asked for as well
+    VariableRole role;
+    QString meaning; ///< what it paints, in one sentence
+    /// The names of the variables on which it is seen. "palette/" and a role stands for a brush of
+    /// the palette.
+    QStringList surfaces;
+    QString family; ///< the heading under which it is listed
+};
+
+/// A role of the palette that is seen as text.
+struct PaletteText
+{
+    QString role;         ///< a key of QPalette::ColorRole
+    QStringList surfaces; ///< as those of a variable
+};
+
+/// Every theme variable that the library can ask for: what a theme has to define.
+namespace Catalogue {
+
+/// Returns all variables, those of a family one after the other.
+MOX_COMMON_THEME_EXPORT const QVector<Variable> &variables();
+
+/// Returns the variable \a name of \a group; null when there is none.
+MOX_COMMON_THEME_EXPORT const Variable *find(const QString &group, const QString &name);
+
+/// Returns the roles of the palette that are seen as text.
+MOX_COMMON_THEME_EXPORT const QVector<PaletteText> &paletteTexts();
+
+/// Returns the kinds of buttons and inputs that a theme has to define; the plain kind is an empty
+/// word. Applications may ask for further ones.
+MOX_COMMON_THEME_EXPORT QStringList kinds();
+
+/// Returns the words for the states of buttons and inputs: "Unchecked", "UncheckedHover" ...
+MOX_COMMON_THEME_EXPORT QStringList states();
+
+} // namespace Catalogue
+
+} // namespace TARN
