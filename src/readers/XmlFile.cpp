@@ -60,19 +60,35 @@ QString decodedText(QIODevice &device)
     return QString::fromUtf8(device.readAll());
 }
 
+int readSource(QIODevice &device, QDomDocument &document, XmlSource &source)
+{
+    source.text = decodedText(device);
+    if (source.text.size() > maxTextSize || !isSafeXml(source.text)) {
+        document = QDomDocument();
+        source.fault = QStringLiteral("too deeply nested, too large, or with declarations that "
+                                      "the parser is not trusted with");
+        return Faulty;
+    }
+    const bool fine =
+        document.setContent(source.text, false, &source.fault, &source.line, &source.column);
+    return fine ? ReadFine : Faulty;
+}
+
 } // namespace
 
 int readXml(QIODevice &device, QDomDocument &document)
 {
-    const QString text = decodedText(device);
-    if (text.size() > maxTextSize || !isSafeXml(text)) {
-        document = QDomDocument();
-        return Faulty;
-    }
-    return document.setContent(text, false) ? ReadFine : Faulty;
+    XmlSource source;
+    return readSource(device, document, source);
 }
 
 int readXmlFile(const QString &path, QDomDocument &document)
+{
+    XmlSource source;
+    return readXmlFile(path, document, source);
+}
+
+int readXmlFile(const QString &path, QDomDocument &document, XmlSource &source)
 {
     // Opening a pipe waits for a writer, and a device may have no end.
     if (!QFileInfo(path).isFile()) {
@@ -82,7 +98,7 @@ int readXmlFile(const QString &path, QDomDocument &document)
     if (!file.open(QIODevice::ReadOnly)) {
         return CannotOpen;
     }
-    return readXml(file, document);
+    return readSource(file, document, source);
 }
 
 } // namespace TARN

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <mox_common_theme_export.h>
+
 #include <QtCore/QString>
 
 class QDomDocument;
@@ -24,5 +26,18 @@ int readXmlFile(const QString &path, QDomDocument &document);
 
 /// The same for what \a device, which is open, holds from where it stands.
 int readXml(QIODevice &device, QDomDocument &document);
+
+/// What a theme file holds besides its document, for those who tell people about it.
+struct XmlSource
+{
+    QString text;  ///< what the parser saw
+    QString fault; ///< in the parser's words; empty when the text is well-formed
+    int line = 0;  ///< where the fault is, from 1; 0 when it is nowhere in particular
+    int column = 0;
+};
+
+/// The same as without \a source, which is filled with what is known of the file.
+MOX_COMMON_THEME_EXPORT int readXmlFile(const QString &path, QDomDocument &document,
+                                        XmlSource &source);
 
 } // namespace TARN

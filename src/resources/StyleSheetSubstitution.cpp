@@ -1,16 +1,15 @@
+#include "resources/StyleSheetSubstitution.h"
+
+#include "resources/LookUpObserver.h"
 #include "resources/ThemeResources.h"
 #include "resources/VariablePath.h"
 
 namespace TARN {
 
-namespace {
-
 QRegularExpression placeholderPattern()
 {
     return QRegularExpression(QStringLiteral("(@)([\\w%1]+)(@)").arg(QLatin1Char('/')));
 }
-
-} // namespace
 
 QString ThemeResources::customizeStyleSheet(const QString &styleSheet)
 {
@@ -22,7 +21,9 @@ QString ThemeResources::customizeStyleSheet(const QString &styleSheet)
     QRegularExpressionMatchIterator matches = placeholderPattern().globalMatch(styleSheet);
     while (matches.hasNext()) {
         const QRegularExpressionMatch match = matches.next();
-        const QVariant value = getThemeVarInternal(variables, match.captured(2), QVariant());
+        const QString path = match.captured(2);
+        tellLookUp(path);
+        const QVariant value = getThemeVarInternal(variables, path, QVariant());
         if (value.isValid()) {
             result += styleSheet.midRef(copied, match.capturedStart() - copied);
             result += value.toString();

@@ -1,5 +1,6 @@
 #include "resources/ThemeResources.h"
 
+#include "resources/LookUpObserver.h"
 #include "resources/ProcessCache.h"
 #include "resources/VariableGroup.h"
 #include "resources/VariableKeyIndex.h"
@@ -25,6 +26,9 @@ template <typename T, const QString &(*Prefix)(),
           const char *(*PropertyName)() = ThemeResources::getThemeVariablePropertyName>
 T keptVariable(const QString &name, const T &withoutApplication)
 {
+    if (Q_UNLIKELY(lookUpObserver)) {
+        lookUpObserver(Prefix(), name);
+    }
     if (!QCoreApplication::instance()) {
         return withoutApplication;
     }
@@ -122,6 +126,7 @@ const QString &ThemeResources::themeResourcesPrefix()
 
 QVariant ThemeResources::getThemeVar(const QString &path, const QVariant &defaultValue)
 {
+    tellLookUp(path);
     return getThemeVarInternal(publishedVariables(getThemeVariablePropertyName()), path,
                                defaultValue);
 }
