@@ -126,7 +126,7 @@ void MainWindow::createToolBar()
     bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     bar->addActions({m_previous, m_next});
     bar->addSeparator();
-    bar->addWidget(m_themeButton);
+    m_themeButtonAction = bar->addWidget(m_themeButton);
     bar->addAction(m_rightToLeft);
 }
 
@@ -134,6 +134,13 @@ void MainWindow::showPage(int index)
 {
     m_list->setCurrentPage(index);
     m_list->setFocus();
+}
+
+void MainWindow::showFixedTheme(const QString &name)
+{
+    m_themeMenu->menuAction()->setVisible(false);
+    m_themeButtonAction->setVisible(false);
+    displayTheme(name);
 }
 
 void MainWindow::displayPage(int index)
@@ -147,6 +154,26 @@ void MainWindow::displayPage(int index)
     m_title->setText(pages().at(index).title);
     m_previous->setEnabled(index > 0);
     m_next->setEnabled(index + 1 < pages().size());
+    if (!m_keepsHiddenPages) {
+        dropHiddenPages();
+    }
+}
+
+void MainWindow::keepOnlyCurrentPage()
+{
+    m_keepsHiddenPages = false;
+    dropHiddenPages();
+}
+
+void MainWindow::dropHiddenPages()
+{
+    for (QWidget *&view : m_pageViews) {
+        if (view && view != m_stack->currentWidget()) {
+            m_stack->removeWidget(view);
+            view->deleteLater();
+            view = nullptr;
+        }
+    }
 }
 
 QWidget *MainWindow::createPageView(int index)

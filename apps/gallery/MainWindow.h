@@ -28,6 +28,14 @@ public:
     /// Shows the page at \a index of the page table.
     void showPage(int index);
 
+    /// Names \a name as the theme, and offers no other: for an application whose theme comes from
+    /// somewhere else than the repository.
+    void showFixedTheme(const QString &name);
+
+    /// Has each page be made anew whenever it comes to be shown, so that the page that is shown is
+    /// the only one that a change of the theme has to reach.
+    void keepOnlyCurrentPage();
+
 private:
     void createMenus();
     void createToolBar();
@@ -36,6 +44,7 @@ private:
 
     void displayPage(int index);
     QWidget *createPageView(int index);
+    void dropHiddenPages();
     void switchTheme(const QString &name);
     void displayTheme(const QString &name);
     void setRightToLeft(bool rightToLeft);
@@ -47,10 +56,12 @@ private:
     PageList *m_list;
     QLabel *m_title;
     QStackedWidget *m_stack;
-    QVector<QWidget *> m_pageViews; // null until a page is first shown
+    QVector<QWidget *> m_pageViews; // null until a page is first shown, or when it was dropped
+    bool m_keepsHiddenPages = true;
 
     ThemeMenu *m_themeMenu;
     QToolButton *m_themeButton;
+    QAction *m_themeButtonAction = nullptr; // shows and hides the button in the tool bar
     QLabel *m_themeLabel;
     QAction *m_previous = nullptr;
     QAction *m_next = nullptr;

@@ -1,61 +1,19 @@
 #include "Screenshots.h"
 
 #include "MainWindow.h"
+#include "Settling.h"
 #include "pages/Literals.h"
 #include "pages/PageTable.h"
 
-#include <QtCore/QAbstractAnimation>
 #include <QtCore/QDir>
-#include <QtCore/QElapsedTimer>
 #include <QtGui/QImageWriter>
 #include <QtWidgets/QApplication>
-#include <QtWidgets/QFileSystemModel>
 
 namespace TARN::Gallery {
 
 namespace {
 
 constexpr QSize WindowSize(1600, 960);
-constexpr int AnimationTime = 400; // milliseconds; shows a busy bar in the middle of its way
-constexpr int ListingTime = 3000;  // milliseconds after which a slow disk is given up
-constexpr int EventTime = 10;      // milliseconds
-constexpr int SettlingRounds = 3;  // layouts of layouts take a few
-
-void processEvents()
-{
-    for (int i = 0; i < SettlingRounds; ++i) {
-        QCoreApplication::sendPostedEvents();
-        QCoreApplication::processEvents(QEventLoop::AllEvents, EventTime);
-    }
-}
-
-bool isListed(const QFileSystemModel &model)
-{
-    return model.rowCount(model.index(model.rootPath())) > 0;
-}
-
-// File dialogs list their folders from another thread.
-void waitForListings(const QWidget &window)
-{
-    QElapsedTimer timer;
-    timer.start();
-    for (const auto *model : window.findChildren<QFileSystemModel *>()) {
-        while (!isListed(*model) && timer.elapsed() < ListingTime) {
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::AllEvents,
-                                            EventTime);
-        }
-    }
-}
-
-void freezeAnimations(const QWidget &window)
-{
-    for (auto *animation : window.findChildren<QAbstractAnimation *>()) {
-        if (animation->state() == QAbstractAnimation::Running) {
-            animation->pause();
-            animation->setCurrentTime(AnimationTime);
-        }
-    }
-}
 
 QString writePicture(const QImage &image, const QString &path)
 {
@@ -93,10 +51,7 @@ QString writeScreenshots(MainWindow &window, const QString &folder,
     window.show();
     for (int i = 0; i < pages().size(); ++i) {
         window.showPage(i);
-        processEvents();
-        waitForListings(window);
-        processEvents();
-        freezeAnimations(window);
+        settle(window);
         const QString path = directory.filePath(pages().at(i).id + ".png"_s);
         QString problem = writePicture(window.grab().toImage(), path);
         if (!problem.isEmpty()) {

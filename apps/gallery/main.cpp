@@ -1,4 +1,5 @@
 #include "CommandLine.h"
+#include "Display.h"
 #include "MainWindow.h"
 #include "Screenshots.h"
 #include "Themes.h"
@@ -40,12 +41,7 @@ QStringList argumentList(int argc, char **argv)
 
 bool isDisplayMissing(const CommandLine &commandLine)
 {
-    for (const char *name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
-        if (!qEnvironmentVariableIsEmpty(name)) {
-            return false;
-        }
-    }
-    return !commandLine.unknown.contains("-platform"_s) &&
+    return !hasDisplay() && !commandLine.unknown.contains("-platform"_s) &&
            !commandLine.unknown.contains("--platform"_s);
 }
 
