@@ -26,6 +26,7 @@ const QVector<Page> &pages()
         {Name("tool-buttons"), Name("Tool buttons"), buttons, createToolButtonsPage},
         {Name("check-boxes"), Name("Check boxes"), buttons, createCheckBoxesPage},
         {Name("radio-buttons"), Name("Radio buttons"), buttons, createRadioButtonsPage},
+        {Name("kinds"), Name("Kinds"), buttons, createKindsPage},
 
         {Name("line-edits"), Name("Line edits"), inputs, createLineEditsPage},
         {Name("text-edits"), Name("Text edits"), inputs, createTextEditsPage},

@@ -11,6 +11,7 @@ QWidget *createPushButtonsPage();
 QWidget *createToolButtonsPage();
 QWidget *createCheckBoxesPage();
 QWidget *createRadioButtonsPage();
+QWidget *createKindsPage();
 
 QWidget *createLineEditsPage();
 QWidget *createTextEditsPage();
