@@ -6,7 +6,7 @@ namespace TARN::Words {
 
 namespace {
 
-constexpr QLatin1String brush("Brush");
+constexpr QLatin1String brush = word("Brush");
 
 } // namespace
 
