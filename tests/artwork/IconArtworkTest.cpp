@@ -58,6 +58,7 @@ class IconArtworkTest : public QObject
 private Q_SLOTS:
     void initTestCase();
     void filesMatchTheirSources();
+    void standardIconsMatchTheirSources();
     void themesMatchTheirSources_data();
     void themesMatchTheirSources();
     void allAreCompiledIn();
@@ -89,18 +90,39 @@ void IconArtworkTest::filesMatchTheirSources()
     QCOMPARE(svgNames(folder + text("icons")).size(), composed.size() - 1);
 }
 
+void IconArtworkTest::standardIconsMatchTheirSources()
+{
+    QStringList errors;
+    const FileSet composed = library().standardIconFiles(&errors);
+    QCOMPARE(errors, QStringList());
+    const QString folder = checkout("apps/mox-theme/generator/icons/");
+    for (auto file = composed.begin(); file != composed.end(); ++file) {
+        QVERIFY2(contents(folder + file.key()) == file.value(),
+                 qPrintable(file.key() + text(": run \"mox-artwork compose\"")));
+    }
+    QCOMPARE(library().grounds(), QStringList({text("dark-ground"), text("light-ground")}));
+    int count = library().grounds().size();
+    for (const QString &ground : library().grounds()) {
+        count += svgNames(folder + ground).size();
+    }
+    QCOMPARE(count, composed.size());
+}
+
 void IconArtworkTest::themesMatchTheirSources_data()
 {
     QTest::addColumn<QString>("theme");
-    QTest::newRow("Dark") << text("Dark");
-    QTest::newRow("Light") << text("Light");
+    QTest::addColumn<QString>("ground");
+    QTest::newRow("Dark") << text("Dark") << text("dark-ground");
+    QTest::newRow("HighContrast") << text("HighContrast") << text("dark-ground");
+    QTest::newRow("Light") << text("Light") << text("light-ground");
 }
 
 void IconArtworkTest::themesMatchTheirSources()
 {
     QFETCH(const QString, theme);
+    QFETCH(const QString, ground);
     QStringList errors;
-    const FileSet composed = library().themeFiles(theme, &errors);
+    const FileSet composed = library().standardIcons(ground, &errors);
     QCOMPARE(errors, QStringList());
     const QString folder = checkout("themes/") + text("%1/Images/%1/scalable").arg(theme);
     QCOMPARE(svgNames(folder), QStringList(composed.keys()));

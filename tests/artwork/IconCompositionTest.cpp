@@ -30,7 +30,7 @@ class Sources
 public:
     explicit Sources(const QByteArray &icons, const QByteArray &motifs = QByteArray())
     {
-        write(m_folder.filePath(text("palette.txt")), "colour compiled-in Light\n"
+        write(m_folder.filePath(text("palette.txt")), "colour compiled-in light-ground\n"
                                                       "ink    #E5EEF4    #272E34\n"
                                                       "red    #E5484D    #CE2C31\n");
         write(m_folder.filePath(text("standard.txt")), "# nothing\n");
@@ -115,7 +115,7 @@ private Q_SLOTS:
     void errorsAreTold_data();
     void errorsAreTold();
     void palettesAreRead();
-    void standardIconsTakeTheThemesColors();
+    void standardIconsTakeTheColorsOfTheGround();
     void filesAreWrittenAndRemoved();
 };
 
@@ -320,19 +320,19 @@ void IconCompositionTest::palettesAreRead()
     QVERIFY(errors.at(2).contains(text("expected three words")));
 }
 
-void IconCompositionTest::standardIconsTakeTheThemesColors()
+void IconCompositionTest::standardIconsTakeTheColorsOfTheGround()
 {
     Sources sources("action.test: solid rect 2 2 2 2\n");
     sources.setStandardIcons("edit-test action.test *\naction.test action.test compiled-in\n");
     QStringList errors;
-    const FileSet files = sources.library(&errors).themeFiles(text("Light"), &errors);
+    const FileSet files = sources.library(&errors).standardIcons(text("light-ground"), &errors);
     QCOMPARE(errors, QStringList());
     QCOMPARE(QStringList(files.keys()),
              QStringList({text("action.test.svg"), text("edit-test.svg")}));
     QVERIFY(files.value(text("edit-test.svg")).contains("#272E34"));
     QVERIFY(files.value(text("action.test.svg")).contains("#E5EEF4"));
 
-    const FileSet unknown = sources.library(&errors).themeFiles(text("Unknown"), &errors);
+    const FileSet unknown = sources.library(&errors).standardIcons(text("Unknown"), &errors);
     QVERIFY(errors.join(QLatin1Char('\n')).contains(text("no palette is named \"Unknown\"")));
 }
 

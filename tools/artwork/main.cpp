@@ -5,7 +5,6 @@
 #include "icons/IconCheck.h"
 #include "icons/IconLibrary.h"
 
-#include <QtCore/QDir>
 #include <QtCore/QRegularExpression>
 #include <QtGui/QGuiApplication>
 
@@ -17,7 +16,8 @@ namespace {
 
 constexpr char Usage[] =
     "usage: mox-artwork compose ROOT\n"
-    "           makes the compiled-in icons and cursors, and the icons of the shipped themes\n"
+    "           makes the compiled-in icons and cursors, and the icons that mox-theme\n"
+    "           writes into themes\n"
     "       mox-artwork check ROOT [PATTERN]\n"
     "           tells what the icons whose names match do wrong, and which look alike\n"
     "       mox-artwork sheet ROOT PATTERN PICTURE [dark|light|overview]\n"
@@ -54,20 +54,12 @@ int compose(const IconLibrary &library, const QString &root)
     for (auto file = cursors.begin(); file != cursors.end(); ++file) {
         files.insert(file.key(), file.value());
     }
-    const QDir themes(root + QStringLiteral("/themes"));
-    QMap<QString, FileSet> themeFiles;
-    for (const QString &theme : themes.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
-        themeFiles.insert(theme, library.themeFiles(theme, &errors));
-    }
+    const FileSet standardIcons = library.standardIconFiles(&errors);
     if (!errors.isEmpty()) {
         return report(errors);
     }
     errors = writeFiles(root + QStringLiteral("/src/resources/internalRC"), files);
-    for (auto theme = themeFiles.begin(); theme != themeFiles.end(); ++theme) {
-        errors +=
-            writeFiles(themes.filePath(QStringLiteral("%1/Images/%1/scalable").arg(theme.key())),
-                       theme.value());
-    }
+    errors += writeFiles(root + QStringLiteral("/apps/mox-theme/generator/icons"), standardIcons);
     return report(errors);
 }
 

@@ -110,17 +110,40 @@ FileSet IconLibrary::compiledInFiles(QStringList *errors) const
     return files;
 }
 
-FileSet IconLibrary::themeFiles(const QString &theme, QStringList *errors) const
+QStringList IconLibrary::grounds() const
+{
+    QStringList grounds = m_palettes.keys();
+    grounds.removeOne(CompiledIn);
+    return grounds;
+}
+
+FileSet IconLibrary::standardIcons(const QString &ground, QStringList *errors) const
 {
     FileSet files;
     const Composer composer(m_drawings);
     for (const StandardIcon &icon : m_standardIcons) {
-        const QString paletteName = icon.palette == u"*" ? theme : icon.palette;
+        const QString paletteName = icon.palette == u"*" ? ground : icon.palette;
         if (!m_palettes.contains(paletteName)) {
             errors->append(QStringLiteral("no palette is named \"%1\"").arg(paletteName));
         }
         files.insert(icon.name + QStringLiteral(".svg"),
                      composer.compose(icon.drawing, m_palettes.value(paletteName), errors));
+    }
+    return files;
+}
+
+FileSet IconLibrary::standardIconFiles(QStringList *errors) const
+{
+    FileSet files;
+    for (const QString &ground : grounds()) {
+        FileSet icons;
+        const FileSet ofGround = standardIcons(ground, errors);
+        for (auto icon = ofGround.begin(); icon != ofGround.end(); ++icon) {
+            icons.insert(ground + QLatin1Char('/') + icon.key(), icon.value());
+        }
+        files.insert(ground + QStringLiteral(".qrc"),
+                     resourceCollection(QStringLiteral("/StandardIcons/") + ground, icons.keys()));
+        files.insert(icons);
     }
     return files;
 }

@@ -13,7 +13,7 @@ namespace TARN::Artwork {
 /// - "motifs/*.icons", what several icons share;
 /// - "families/<family>.icons", the icons of each family;
 /// - "standard.txt", the icons that each theme holds itself, as lines "name drawing palette";
-///   a "*" there stands for the palette of the theme's name.
+///   a "*" there stands for the palette of the theme's ground.
 class IconLibrary
 {
 public:
@@ -35,8 +35,16 @@ public:
     /// Returns the compiled-in set: "icons/<name>.svg" and "icons.qrc".
     [[nodiscard]] FileSet compiledInFiles(QStringList *errors) const;
 
-    /// Returns the icons that the theme \a theme holds itself: "<name>.svg".
-    [[nodiscard]] FileSet themeFiles(const QString &theme, QStringList *errors) const;
+    /// The grounds that themes show icons on: the palettes besides that of the compiled-in icons.
+    [[nodiscard]] QStringList grounds() const;
+
+    /// Returns the icons that a theme of the ground \a ground holds itself: "<name>.svg".
+    [[nodiscard]] FileSet standardIcons(const QString &ground, QStringList *errors) const;
+
+    /// Returns the standard icons for every ground, as the tool that writes themes compiles them
+    /// in:
+    /// "<ground>/<name>.svg" and "<ground>.qrc".
+    [[nodiscard]] FileSet standardIconFiles(QStringList *errors) const;
 
 private:
     struct StandardIcon
