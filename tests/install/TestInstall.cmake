@@ -54,3 +54,13 @@ file(GLOB pictures "${WORK_DIR}/pictures/*.png")
 if(NOT pictures)
   message(FATAL_ERROR "The installed gallery saved no pictures")
 endif()
+
+# The installed tool runs, and what explains and completes it lies where it is looked for.
+run("${CMAKE_COMMAND}" -E env ASAN_OPTIONS=detect_leaks=0 "${prefix}/bin/mox-theme" --version)
+foreach(file IN ITEMS man/man1/mox-theme.1 bash-completion/completions/mox-theme
+                      zsh/site-functions/_mox-theme fish/vendor_completions.d/mox-theme.fish)
+  file(SIZE "${prefix}/share/${file}" size)
+  if(size LESS 1000)
+    message(FATAL_ERROR "share/${file} is installed with no more than ${size} bytes")
+  endif()
+endforeach()
