@@ -21,10 +21,15 @@ set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/lib")
 
 find_program(MOX_CCACHE ccache)
 if(MOX_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
-  set(CMAKE_CXX_COMPILER_LAUNCHER "${MOX_CCACHE}")
+  # Without these it keeps nothing that uses precompiled headers.
+  set(CMAKE_CXX_COMPILER_LAUNCHER "${CMAKE_COMMAND}" -E env
+                                  CCACHE_SLOPPINESS=pch_defines,time_macros "${MOX_CCACHE}")
 endif()
 
 option(MOX_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" ${PROJECT_IS_TOP_LEVEL})
+# What a target that precompiles headers is compiled with, so that ccache can keep its objects.
+set(MOX_PRECOMPILED_OPTIONS "$<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>")
+
 option(MOX_SANITIZE "Build with AddressSanitizer and UndefinedBehaviorSanitizer" OFF)
 
 add_library(mox_compiler_settings INTERFACE)
