@@ -13,10 +13,6 @@ namespace TARN::ThemeTool {
 
 namespace {
 
-constexpr double textContrast = 4.5;
-constexpr double graphicContrast = 3;
-constexpr double disabledTextContrast = 2;
-
 /// Something that is seen on surfaces.
 struct Sight
 {
@@ -74,25 +70,9 @@ private:
     QHash<QString, QString> m_suggestions;
 };
 
-double neededContrast(VariableRole role)
-{
-    switch (role) {
-    case VariableRole::Text:
-        return textContrast;
-    case VariableRole::Graphic:
-    case VariableRole::Outline:
-        return graphicContrast;
-    case VariableRole::Surface:
-    case VariableRole::Decoration:
-    case VariableRole::Value:
-        break;
-    }
-    return 0;
-}
-
 void ContrastCheck::checkVariable(const Variable &variable)
 {
-    const double needed = neededContrast(variable.role);
+    const double needed = Catalogue::neededContrast(variable.role);
     if (needed == 0) {
         return;
     }
@@ -105,7 +85,7 @@ void ContrastCheck::checkVariable(const Variable &variable)
     if (variable.role == VariableRole::Text && variable.hasDisabledTwin) {
         const QString twin = variable.name + twinSuffix;
         check({twin, "disabled"_s, m_appearance.variable(twin), disabledSurfaces(variable.surfaces),
-               disabledTextContrast, entries->value(twin)});
+               Catalogue::disabledTextContrast, entries->value(twin)});
     }
 }
 
@@ -126,7 +106,7 @@ void ContrastCheck::checkPaletteText(const PaletteText &text)
     const MappingEntry *entry = m_appearance.paletteEntry(text.role);
     if (entry) {
         check({text.role, "active"_s, m_appearance.paletteRole(text.role), text.surfaces,
-               textContrast, entry->place});
+               Catalogue::textContrast, entry->place});
     }
 }
 

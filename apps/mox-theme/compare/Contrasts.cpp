@@ -11,15 +11,12 @@ namespace TARN::ThemeTool {
 
 namespace {
 
-constexpr double textDemand = 4.5;
-constexpr double disabledTextDemand = 2;
-
 /// A text and what it is seen on: sections and names of theme values.
 struct TextPair
 {
     QString text;
     QString surface;
-    double demand = textDemand;
+    double demand = Catalogue::textContrast;
 };
 
 /// A contrast with the colours that make it.
@@ -61,17 +58,17 @@ QVector<TextPair> textPairs()
         }
         const QString text = variable.group + "/"_s + variable.name;
         for (const QString &surface : variable.surfaces) {
-            pairs.append({text, surfaceValue(surface), textDemand});
+            pairs.append({text, surfaceValue(surface), Catalogue::textContrast});
             if (variable.hasDisabledTwin) {
-                pairs.append(
-                    {text + "Disabled"_s, disabledSurfaceValue(surface), disabledTextDemand});
+                pairs.append({text + "Disabled"_s, disabledSurfaceValue(surface),
+                              Catalogue::disabledTextContrast});
             }
         }
     }
     for (const PaletteText &text : Catalogue::paletteTexts()) {
         for (const QString &surface : text.surfaces) {
-            pairs.append(
-                {"palette/"_s + text.role + "/Active"_s, surfaceValue(surface), textDemand});
+            pairs.append({"palette/"_s + text.role + "/Active"_s, surfaceValue(surface),
+                          Catalogue::textContrast});
         }
     }
     return pairs;

@@ -6,6 +6,7 @@
 #include "import/SeenColors.h"
 
 #include <common_utils/Contrast.h>
+#include <style/catalogue/Catalogue.h>
 
 namespace TARN::ThemeTool {
 
@@ -159,7 +160,7 @@ QVector<ContrastDemand> demandsOn(const QString &variable, const SeenColors &see
         // The faces of buttons carry text of their own.
         const bool isFace = ground.startsWith("Button"_s) && !tokens.colors.contains(ground);
         if (isSurface(ground) && !isFace) {
-            demands.append({seen.color(ground), TextRatio});
+            demands.append({seen.color(ground), Catalogue::textContrast});
         }
     }
     return demands;

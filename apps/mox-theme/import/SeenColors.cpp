@@ -7,38 +7,17 @@
 
 namespace TARN::ThemeTool {
 
-namespace {
-
-/// Returns the contrast that \a role demands; 0 when it demands none.
-double ratioOf(VariableRole role)
-{
-    switch (role) {
-    case VariableRole::Text:
-        return TextRatio;
-    case VariableRole::Graphic:
-    case VariableRole::Outline:
-        return GraphicRatio;
-    case VariableRole::Surface:
-    case VariableRole::Decoration:
-    case VariableRole::Value:
-        break;
-    }
-    return 0;
-}
-
-} // namespace
-
 SeenColors::SeenColors(const ThemeDefinition &definition)
 {
     readDefinition(definition);
     for (const Variable &variable : Catalogue::variables()) {
-        const double ratio = ratioOf(variable.role);
+        const double ratio = Catalogue::neededContrast(variable.role);
         if (ratio > 0) {
             addPairs(variable.name, variable.surfaces, ratio);
         }
     }
     for (const PaletteText &text : Catalogue::paletteTexts()) {
-        addPairs("palette/"_s + text.role, text.surfaces, TextRatio);
+        addPairs("palette/"_s + text.role, text.surfaces, Catalogue::textContrast);
     }
 }
 

@@ -10,10 +10,6 @@ namespace TARN::ThemeTool {
 
 struct ThemeDefinition;
 
-/// The contrasts that text, and whatever else tells something, have to their grounds.
-inline constexpr double TextRatio = 4.5;
-inline constexpr double GraphicRatio = 3;
-
 /// Which colours of a theme are seen on which others.
 class SeenColors
 {

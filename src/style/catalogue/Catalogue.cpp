@@ -141,6 +141,22 @@ QHash<Key, const Variable *> indexOf(const QVector<Variable> &variables)
 
 } // namespace
 
+double neededContrast(VariableRole role)
+{
+    switch (role) {
+    case VariableRole::Text:
+        return textContrast;
+    case VariableRole::Graphic:
+    case VariableRole::Outline:
+        return graphicContrast;
+    case VariableRole::Surface:
+    case VariableRole::Decoration:
+    case VariableRole::Value:
+        break;
+    }
+    return 0;
+}
+
 const QVector<Variable> &variables()
 {
     static const QVector<Variable> all = allVariables();

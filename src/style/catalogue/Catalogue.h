@@ -11,9 +11,9 @@ namespace TARN {
 /// How a theme variable is seen.
 enum class VariableRole {
     Surface,    ///< fills what other things lie on
-    Text,       ///< must have a contrast of 4.5:1 to its surfaces, disabled text one of 2:1
-    Graphic,    ///< icons, marks, handles: 3:1
-    Outline,    ///< lines without which a control is not recognised: 3:1
+    Text,       ///< is read on its surfaces
+    Graphic,    ///< icons, marks and handles on its surfaces
+    Outline,    ///< lines without which a control is not recognised
     Decoration, ///< lines that only please the eye
     Value       ///< is no colour
 };
@@ -41,6 +41,16 @@ struct PaletteText
 
 /// Every theme variable that the library can ask for: what a theme has to define.
 namespace Catalogue {
+
+/// \name The contrasts (1 to 21) that people need
+/// \{
+inline constexpr double textContrast = 4.5;
+inline constexpr double disabledTextContrast = 2;
+inline constexpr double graphicContrast = 3; ///< of graphics and outlines
+/// \}
+
+/// Returns the contrast that a variable of \a role needs on its surfaces; 0 when it needs none.
+MOX_COMMON_THEME_EXPORT double neededContrast(VariableRole role);
 
 /// Returns all variables, those of a family one after the other.
 MOX_COMMON_THEME_EXPORT const QVector<Variable> &variables();
