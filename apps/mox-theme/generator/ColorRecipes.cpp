@@ -146,7 +146,7 @@ QColor highlightTone(const Scheme &scheme, const QColor &wanted)
         const double chroma = start.chroma * step / chromaSteps;
         for (double lightness = start.lightness; lightness >= 0 && lightness <= 1;
              lightness += direction) {
-            const QColor tone = toColor({lightness, chroma, start.hue});
+            QColor tone = toColor({lightness, chroma, start.hue});
             const QColor seen = mixed(tone, opacity, scheme["InputBackgroundColor"]);
             if (Helpers::contrastRatio(highlightedText, seen) >= contrast) {
                 return tone;

@@ -18,7 +18,10 @@ struct Run
 Run run(const QStringList &arguments, const QStringList &environment = {})
 {
     QProcess process;
-    process.setEnvironment(environment);
+    // What a sanitizer is told to leave alone holds for the tool as well.
+    const QString suppressions = "LSAN_OPTIONS="_s + qEnvironmentVariable("LSAN_OPTIONS");
+    process.setEnvironment(environment.isEmpty() ? environment
+                                                 : environment + QStringList{suppressions});
     process.start(QStringLiteral(MOX_THEME), arguments);
     if (!process.waitForFinished() || process.exitStatus() != QProcess::NormalExit) {
         return {};
