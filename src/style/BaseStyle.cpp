@@ -8,6 +8,7 @@
 #include "style/Mnemonics.h"
 #include "style/Polishing.h"
 #include "style/catalogue/Names.h"
+#include "style/catalogue/Words.h"
 #include "style/families/ItemViews.h"
 
 #include <QtWidgets/QStyleOption>
@@ -26,7 +27,7 @@ constexpr int edgeContrast = 115;
 QString variableName(QString name, bool enabled)
 {
     if (!enabled) {
-        name += QLatin1String("Disabled");
+        name += Words::disabled;
     }
     return name;
 }

@@ -3,7 +3,6 @@
 namespace TARN::ThemeTool {
 
 const QString derivedPrefix = QStringLiteral("Disabled");
-const QString twinSuffix = QStringLiteral("Disabled");
 
 QString withoutDerivedPrefix(const QString &name)
 {

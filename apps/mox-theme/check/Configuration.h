@@ -50,9 +50,6 @@ struct Configuration
 /// How the names begin that the library derives.
 extern const QString derivedPrefix;
 
-/// How the names of disabled twins end, which the theme defines.
-extern const QString twinSuffix;
-
 /// Returns \a name without the beginning of derived names.
 QString withoutDerivedPrefix(const QString &name);
 

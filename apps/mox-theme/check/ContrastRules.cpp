@@ -6,6 +6,7 @@
 
 #include <common_utils/Contrast.h>
 #include <resources/ThemeResources.h>
+#include <style/catalogue/Words.h>
 
 #include <cmath>
 
@@ -83,7 +84,7 @@ void ContrastCheck::checkVariable(const Variable &variable)
     check({variable.name, "enabled"_s, m_appearance.variable(variable.name), variable.surfaces,
            needed, entries->value(variable.name)});
     if (variable.role == VariableRole::Text && variable.hasDisabledTwin) {
-        const QString twin = variable.name + twinSuffix;
+        const QString twin = variable.name + Words::disabled;
         check({twin, "disabled"_s, m_appearance.variable(twin), disabledSurfaces(variable.surfaces),
                Catalogue::disabledTextContrast, entries->value(twin)});
     }
@@ -95,7 +96,7 @@ QStringList ContrastCheck::disabledSurfaces(const QStringList &surfaces) const
     QStringList names;
     for (const QString &surface : surfaces) {
         if (paletteRoleOf(surface).isEmpty()) {
-            names.append(m_demand.hasTwin(surface) ? surface + twinSuffix : surface);
+            names.append(m_demand.hasTwin(surface) ? surface + Words::disabled : surface);
         }
     }
     return names;

@@ -28,7 +28,7 @@ QRegularExpression composedName()
         fields.append(field);
     }
     return QRegularExpression(R"(^(%1)(\w+?)(?:%2)(?:%3)Brush(?:%4)?$)"_s.arg(
-        stems().join(u'|'), Catalogue::states().join(u'|'), fields.join(u'|'), twinSuffix));
+        stems().join(u'|'), Catalogue::states().join(u'|'), fields.join(u'|'), Words::disabled));
 }
 
 } // namespace
@@ -46,7 +46,7 @@ Demand::Demand(const Configuration &configuration)
     for (const Variable &variable : qAsConst(m_variables)) {
         m_asked.insert(variablePath(variable.group, variable.name));
         if (variable.hasDisabledTwin) {
-            m_asked.insert(variablePath(variable.group, variable.name + twinSuffix));
+            m_asked.insert(variablePath(variable.group, variable.name + Words::disabled));
             m_twins.insert(variable.name);
         }
     }

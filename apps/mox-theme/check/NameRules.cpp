@@ -4,6 +4,7 @@
 #include "check/DidYouMean.h"
 
 #include <resources/ThemeResources.h>
+#include <style/catalogue/Words.h>
 
 namespace TARN::ThemeTool {
 
@@ -29,7 +30,7 @@ QStringList lackingNames(const Configuration &configuration, const Variable &var
     };
     addLacking(variable.name);
     if (variable.hasDisabledTwin) {
-        addLacking(variable.name + twinSuffix);
+        addLacking(variable.name + Words::disabled);
     }
     return names;
 }

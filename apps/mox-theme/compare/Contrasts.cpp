@@ -4,6 +4,7 @@
 
 #include <common_utils/Contrast.h>
 #include <style/catalogue/Catalogue.h>
+#include <style/catalogue/Words.h>
 
 #include <algorithm>
 
@@ -46,7 +47,7 @@ QString disabledSurfaceValue(const QString &surface)
     }
     const QString value = surfaceValue(surface);
     const Variable *variable = Catalogue::find(value.section(QLatin1Char('/'), 0, 0), surface);
-    return variable && variable->hasDisabledTwin ? value + "Disabled"_s : value;
+    return variable && variable->hasDisabledTwin ? value + Words::disabled : value;
 }
 
 QVector<TextPair> textPairs()
@@ -60,7 +61,7 @@ QVector<TextPair> textPairs()
         for (const QString &surface : variable.surfaces) {
             pairs.append({text, surfaceValue(surface), Catalogue::textContrast});
             if (variable.hasDisabledTwin) {
-                pairs.append({text + "Disabled"_s, disabledSurfaceValue(surface),
+                pairs.append({text + Words::disabled, disabledSurfaceValue(surface),
                               Catalogue::disabledTextContrast});
             }
         }

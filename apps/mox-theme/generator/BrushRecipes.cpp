@@ -3,6 +3,7 @@
 #include "Literals.h"
 
 #include <style/catalogue/Catalogue.h>
+#include <style/catalogue/Words.h>
 
 #include <QtCore/QHash>
 
@@ -237,7 +238,7 @@ QString brushColor(const QString &name)
     if (Catalogue::find("brushes"_s, name)) {
         return colorOfSameName(name);
     }
-    const QString suffix = "Disabled"_s;
+    const QLatin1String suffix = Words::disabled;
     const QString enabled =
         name.endsWith(suffix) ? brushColor(name.chopped(suffix.size())) : QString();
     return enabled.isEmpty() ? QString() : enabled + suffix;

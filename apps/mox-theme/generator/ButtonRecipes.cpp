@@ -102,11 +102,6 @@ void addHue(RecipeList &list, const ButtonHue &hue)
         QString::fromLatin1(textSurfaces));
 }
 
-QColor neutralFace(const Scheme &scheme, double lightness)
-{
-    return scheme.neutral(lightness);
-}
-
 } // namespace
 
 void addButtonRecipes(RecipeList &list)
@@ -114,14 +109,13 @@ void addButtonRecipes(RecipeList &list)
     list.begin(
         "Buttons. The plain faces belong to ordinary buttons; each hue comes as a full face, "
         "for what is the default or checked, and as a tinted one.");
-    list.addSurface("ButtonBackgroundColor", [](const Scheme &scheme) {
-        return neutralFace(scheme, scheme.tones().button);
-    });
+    list.addSurface("ButtonBackgroundColor",
+                    [](const Scheme &scheme) { return scheme.neutral(scheme.tones().button); });
     list.addSurface("ButtonHoverBackgroundColor", [](const Scheme &scheme) {
-        return neutralFace(scheme, scheme.tones().buttonHover);
+        return scheme.neutral(scheme.tones().buttonHover);
     });
     list.addSurface("ButtonPressedBackgroundColor", [](const Scheme &scheme) {
-        return neutralFace(scheme, scheme.tones().buttonPressed);
+        return scheme.neutral(scheme.tones().buttonPressed);
     });
     const QString faces = "ButtonBackgroundColor ButtonHoverBackgroundColor "
                           "ButtonPressedBackgroundColor BackgroundColor"_s;

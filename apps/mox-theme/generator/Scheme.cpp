@@ -1,6 +1,6 @@
 #include "generator/Scheme.h"
 
-#include "Literals.h"
+#include <style/catalogue/Words.h>
 
 namespace TARN::ThemeTool {
 
@@ -61,10 +61,10 @@ QColor Scheme::compute(const QString &name) const
     if (const ColorRecipe *recipe = findColorRecipe(name)) {
         return recipe->value(*this);
     }
-    if (!name.endsWith("Disabled"_s)) {
+    if (!name.endsWith(Words::disabled)) {
         return {};
     }
-    const QString enabledName = name.chopped(8);
+    const QString enabledName = name.chopped(Words::disabled.size());
     const ColorRecipe *recipe = findColorRecipe(enabledName);
     return recipe ? recipe->disabled(*this, color(enabledName)) : QColor();
 }
@@ -88,7 +88,7 @@ QVector<ContrastDemand> Scheme::demands(const char *surfaces, double ratio, bool
     QVector<ContrastDemand> demands;
     const QStringList names = QString::fromLatin1(surfaces).split(QLatin1Char(' '));
     for (const QString &name : names) {
-        demands.append({color(enabled ? name : name + "Disabled"_s), ratio});
+        demands.append({color(enabled ? name : name + Words::disabled), ratio});
     }
     return demands;
 }

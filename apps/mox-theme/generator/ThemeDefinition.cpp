@@ -6,6 +6,7 @@
 #include "generator/Scheme.h"
 
 #include <style/catalogue/Catalogue.h>
+#include <style/catalogue/Words.h>
 
 #include <QtCore/QRegularExpression>
 #include <QtCore/QSet>
@@ -14,7 +15,7 @@ namespace TARN::ThemeTool {
 
 namespace {
 
-const QString disabledSuffix = QStringLiteral("Disabled");
+constexpr QLatin1String disabledSuffix = Words::disabled;
 
 bool isColorVariable(const QString &name)
 {
