@@ -6,11 +6,13 @@
 #include "style/Geometry.h"
 #include "style/Metrics.h"
 #include "style/Mnemonics.h"
+#include "style/Painting.h"
 #include "style/Polishing.h"
 #include "style/catalogue/Names.h"
 #include "style/catalogue/Words.h"
 #include "style/families/ItemViews.h"
 
+#include <QtGui/QPainter>
 #include <QtWidgets/QStyleOption>
 #include <QtWidgets/QStyleOptionTab>
 #include <QtWidgets/QWidget>
@@ -135,6 +137,62 @@ int BaseStyle::styleHint(StyleHint hint, const QStyleOption *option, const QWidg
         return areMnemonicsUnderlined(*this, *widget) ? answer : 0;
     }
     return answer;
+}
+
+void BaseStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option,
+                              QPainter *painter, const QWidget *widget) const
+{
+    if (!option || !painter) {
+        return;
+    }
+    const PaintRule rule = paintRule(paintedPrimitives(), element);
+    if (!rule || !paint(rule, *this, {option, painter, widget})) {
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+    }
+}
+
+void BaseStyle::drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
+                            const QWidget *widget) const
+{
+    if (!option || !painter) {
+        return;
+    }
+    const PaintRule rule = paintRule(paintedControls(), element);
+    if (!rule || !paint(rule, *this, {option, painter, widget})) {
+        QProxyStyle::drawControl(element, option, painter, widget);
+    }
+}
+
+void BaseStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex *option,
+                                   QPainter *painter, const QWidget *widget) const
+{
+    if (!option || !painter) {
+        return;
+    }
+    const PaintRule rule = paintRule(paintedComplexControls(), control);
+    if (!rule || !paint(rule, *this, {option, painter, widget})) {
+        QProxyStyle::drawComplexControl(control, option, painter, widget);
+    }
+}
+
+void BaseStyle::drawItemText(QPainter *painter, const QRect &rect, int flags,
+                             const QPalette &palette, bool enabled, const QString &text,
+                             QPalette::ColorRole textRole) const
+{
+    if (enabled) {
+        QProxyStyle::drawItemText(painter, rect, flags, palette, enabled, text, textRole);
+        return;
+    }
+    QPalette disabled = palette;
+    disabled.setBrush(QPalette::All, textRole, palette.color(QPalette::Disabled, textRole));
+    QProxyStyle::drawItemText(painter, rect, flags, disabled, enabled, text, textRole);
+}
+
+void BaseStyle::drawItemPixmap(QPainter *painter, const QRect &rect, int alignment,
+                               const QPixmap &pixmap) const
+{
+    painter->setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    QProxyStyle::drawItemPixmap(painter, rect, alignment, pixmap);
 }
 
 QRect BaseStyle::subElementRect(SubElement element, const QStyleOption *option,

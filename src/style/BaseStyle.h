@@ -9,6 +9,8 @@
 #include <QtWidgets/QProxyStyle>
 
 class QStyleOptionTab;
+class QStyleOptionTitleBar;
+class QStyleOptionToolButton;
 
 namespace TARN {
 
@@ -65,6 +67,62 @@ public:
     int styleHint(StyleHint hint, const QStyleOption *option = nullptr,
                   const QWidget *widget = nullptr,
                   QStyleHintReturn *returnData = nullptr) const override;
+
+    /// \name Painting
+    /// What the style does not paint itself, and an option of another type than the element needs,
+    /// goes to the base style. The painter is left as it was found; nothing is painted without an
+    /// option or a painter.
+    /// \{
+    void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
+                       const QWidget *widget = nullptr) const override;
+    void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
+                     const QWidget *widget = nullptr) const override;
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex *option,
+                            QPainter *painter, const QWidget *widget = nullptr) const override;
+    /// \}
+
+    /// Draws \a text; unless \a enabled, in the colour of \a textRole of the disabled group.
+    void drawItemText(QPainter *painter, const QRect &rect, int flags, const QPalette &palette,
+                      bool enabled, const QString &text,
+                      QPalette::ColorRole textRole = QPalette::NoRole) const override;
+    /// Draws \a pixmap smoothly. The painter's hints for that stay on.
+    void drawItemPixmap(QPainter *painter, const QRect &rect, int alignment,
+                        const QPixmap &pixmap) const override;
+
+    /// \name Parts of widgets
+    /// \{
+    /// Draws the tick of a check box over \a rect.
+    void drawCheckMark(QPainter *painter, const QRect &rect, QBrush brush) const;
+    /// Draws the dot of a radio button in the middle of \a rect.
+    void drawRadioMark(QPainter *painter, const QRect &rect, QBrush brush) const;
+    /// Draws a row of dots by which something can be gripped, from the coordinate \a from to
+    /// before \a to along \a orientation, every \a step pixels, at the coordinate \a across.
+    /// Each dot is a light square of \a lightSize with a dark one of \a darkSize on it; the dark
+    /// one of a vertical row is always a single pixel.
+    void drawGrips(QPainter &painter, Qt::Orientation orientation, int from, int to, int across,
+                   int step, int lightSize, int darkSize) const;
+    /// Draws the face of a button that is part of a group with the pen and the brush of
+    /// \a painter, so that only the outer corners of the group have the \a radius; in a workflow
+    /// as a pill, linked to its neighbours by dots in the border brush of \a brushes.
+    void drawButtonGroup(const QRectF &rect, QPainter *painter, const QStyleOption *option,
+                         int radius, ButtonBrushes brushes, const QWidget *widget) const;
+    /// Draws the arrow of a tool button by \a style in \a rect. Sets the foreground brush in the
+    /// palette of \a option and tints its icon, so that the label that is painted next from it
+    /// matches the arrow.
+    void drawToolButtonArrow(const QStyle *style, const QStyleOptionToolButton *option,
+                             const QRect &rect, QPainter *painter, const QWidget *widget) const;
+    /// Draws one button of a title bar in the rectangle of \a subControl, with the standard icon
+    /// \a standardPixmap. A button that is not among the active sub-controls looks disabled.
+    void drawTitleBarButton(QPainter *painter, const QStyleOptionTitleBar *option,
+                            SubControl subControl, StandardPixmap standardPixmap,
+                            const QWidget *widget) const;
+    /// Returns \a option, which must be a ButtonOption, prepared for painting its label: its
+    /// palette gets the foreground brush of the button, its icon the tint of that brush. It is
+    /// the caller's option itself that is changed.
+    template <typename ButtonOption>
+    const ButtonOption *commonCallButtonText(const QStyleOption *option,
+                                             const QWidget *widget) const;
+    /// \}
 
     QRect subElementRect(SubElement element, const QStyleOption *option,
                          const QWidget *widget = nullptr) const override;

@@ -3,6 +3,8 @@
 #include <QtCore/QSize>
 #include <QtWidgets/QStyle>
 
+class QPainter;
+
 namespace TARN {
 
 /// What a widget, or somebody on its behalf, asks the style for. The option is never null, the
@@ -27,6 +29,14 @@ struct ContentsRequest
     QStyle::ContentsType type;
     const QStyleOption *option;
     QSize contents;
+    const QWidget *widget;
+};
+
+/// Neither the option nor the painter is ever null.
+struct PaintRequest
+{
+    const QStyleOption *option;
+    QPainter *painter;
     const QWidget *widget;
 };
 

@@ -1,10 +1,26 @@
 #include "style/catalogue/Names.h"
 
+#include "resources/ProcessCache.h"
 #include "style/BaseStyle.h"
+#include "style/catalogue/VariableTable.h"
 
 #include <array>
 
 namespace TARN {
+
+namespace {
+
+constexpr std::size_t brushCount = 0
+#define MOX_BRUSH(name, twin, role, surfaces, meaning) +1
+#include "style/catalogue/Variables.def"
+    ;
+
+constexpr std::size_t colorCount = 0
+#define MOX_COLOR(name, twin, role, surfaces, meaning) +1
+#include "style/catalogue/Variables.def"
+    ;
+
+} // namespace
 
 const QString &nameOf(BrushName brush)
 {
@@ -24,14 +40,22 @@ const QString &nameOf(ColorName color)
     return names.at(static_cast<std::size_t>(color));
 }
 
-QBrush themeBrush(BrushName brush, bool enabled)
+const QBrush &themeBrush(BrushName brush, bool enabled)
 {
-    return BaseStyle::getBrush(nameOf(brush), enabled);
+    static ProcessCached<VariableTable<QBrush, brushCount>> table(
+        [] { return VariableTable<QBrush, brushCount>(); });
+    return table.value().value(static_cast<std::size_t>(brush), enabled, [brush, enabled] {
+        return BaseStyle::getBrush(nameOf(brush), enabled);
+    });
 }
 
-QColor themeColor(ColorName color, bool enabled)
+const QColor &themeColor(ColorName color, bool enabled)
 {
-    return BaseStyle::getColor(nameOf(color), enabled);
+    static ProcessCached<VariableTable<QColor, colorCount>> table(
+        [] { return VariableTable<QColor, colorCount>(); });
+    return table.value().value(static_cast<std::size_t>(color), enabled, [color, enabled] {
+        return BaseStyle::getColor(nameOf(color), enabled);
+    });
 }
 
 } // namespace TARN

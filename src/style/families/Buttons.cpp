@@ -1,6 +1,7 @@
 #include "style/families/Buttons.h"
 
 #include "style/BaseStyle.h"
+#include "style/Drawing.h"
 #include "style/Geometry.h"
 #include "style/IconTinting.h"
 #include "style/Properties.h"
@@ -74,4 +75,47 @@ void polishCommandLink(BaseStyle &style, QWidget &widget)
     tintOnPaint(style, widget);
 }
 
+bool drawDefaultFrame(const BaseStyle & /*style*/, const PaintRequest & /*request*/)
+{
+    return false;
+}
+
+bool drawPanel(const BaseStyle & /*style*/, const PaintRequest & /*request*/)
+{
+    return false;
+}
+
+bool drawPushButton(const BaseStyle & /*style*/, const PaintRequest & /*request*/)
+{
+    return false;
+}
+
+bool drawBevel(const BaseStyle & /*style*/, const PaintRequest & /*request*/)
+{
+    return false;
+}
+
+bool drawLabel(const BaseStyle & /*style*/, const PaintRequest & /*request*/)
+{
+    return false;
+}
+
 } // namespace TARN::Buttons
+
+namespace TARN {
+
+template <typename ButtonOption>
+const ButtonOption *BaseStyle::commonCallButtonText(const QStyleOption *option,
+                                                    const QWidget *widget) const
+{
+    // The caller's own option is prepared, so that whatever it paints next matches the label.
+    auto *button = const_cast<ButtonOption *>(static_cast<const ButtonOption *>(option));
+    useForeground(*button, buttonBrushes(option, widget).foreground);
+    return button;
+}
+
+template MOX_COMMON_THEME_EXPORT const QStyleOptionButton *
+BaseStyle::commonCallButtonText<QStyleOptionButton>(const QStyleOption *option,
+                                                    const QWidget *widget) const;
+
+} // namespace TARN

@@ -22,4 +22,10 @@ int pushButtonHeight(const BaseStyle &style, const ContentsRequest &request);
 
 void polishCommandLink(BaseStyle &style, QWidget &widget);
 
+bool drawDefaultFrame(const BaseStyle &style, const PaintRequest &request);
+bool drawPanel(const BaseStyle &style, const PaintRequest &request);
+bool drawPushButton(const BaseStyle &style, const PaintRequest &request);
+bool drawBevel(const BaseStyle &style, const PaintRequest &request);
+bool drawLabel(const BaseStyle &style, const PaintRequest &request);
+
 } // namespace TARN::Buttons

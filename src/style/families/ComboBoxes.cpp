@@ -82,4 +82,14 @@ void polishDelegate(BaseStyle &style, QWidget &widget)
     }
 }
 
+bool drawLabel(const BaseStyle & /*style*/, const PaintRequest & /*request*/)
+{
+    return false;
+}
+
+bool drawComboBox(const BaseStyle & /*style*/, const PaintRequest & /*request*/)
+{
+    return false;
+}
+
 } // namespace TARN::ComboBoxes

@@ -19,4 +19,7 @@ QSize comboBoxSize(const BaseStyle &style, const ContentsRequest &request);
 /// Gives the combo box, if it has the toolkit's delegate, one that draws separators.
 void polishDelegate(BaseStyle &style, QWidget &widget);
 
+bool drawLabel(const BaseStyle &style, const PaintRequest &request);
+bool drawComboBox(const BaseStyle &style, const PaintRequest &request);
+
 } // namespace TARN::ComboBoxes

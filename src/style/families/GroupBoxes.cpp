@@ -18,4 +18,9 @@ QRect subControlRect(const BaseStyle &style, const SubControlRequest &request)
     return {rect.x() + 1, rect.y(), rect.width() + 1, rect.height()};
 }
 
+bool drawFrame(const BaseStyle & /*style*/, const PaintRequest & /*request*/)
+{
+    return false;
+}
+
 } // namespace TARN::GroupBoxes

@@ -13,4 +13,6 @@ namespace TARN::GroupBoxes {
 
 QRect subControlRect(const BaseStyle &style, const SubControlRequest &request);
 
+bool drawFrame(const BaseStyle &style, const PaintRequest &request);
+
 } // namespace TARN::GroupBoxes

@@ -17,4 +17,19 @@ void polishClearButton(BaseStyle &style, QWidget &widget)
     tintOnPaint(style, widget);
 }
 
+bool drawFrame(const BaseStyle & /*style*/, const PaintRequest & /*request*/)
+{
+    return false;
+}
+
+bool drawLineEditFrame(const BaseStyle & /*style*/, const PaintRequest & /*request*/)
+{
+    return false;
+}
+
+bool drawLineEditPanel(const BaseStyle & /*style*/, const PaintRequest & /*request*/)
+{
+    return false;
+}
+
 } // namespace TARN::Inputs

@@ -17,4 +17,8 @@ QSize lineEditSize(const BaseStyle &style, const ContentsRequest &request);
 
 void polishClearButton(BaseStyle &style, QWidget &widget);
 
+bool drawFrame(const BaseStyle &style, const PaintRequest &request);
+bool drawLineEditFrame(const BaseStyle &style, const PaintRequest &request);
+bool drawLineEditPanel(const BaseStyle &style, const PaintRequest &request);
+
 } // namespace TARN::Inputs

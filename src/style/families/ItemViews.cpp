@@ -93,4 +93,29 @@ void polishItems(BaseStyle & /*style*/, QWidget &widget)
     widget.setProperty("hideFocusRect", true);
 }
 
+bool drawColumnArrow(const BaseStyle & /*style*/, const PaintRequest & /*request*/)
+{
+    return false;
+}
+
+bool drawItemPanel(const BaseStyle & /*style*/, const PaintRequest & /*request*/)
+{
+    return false;
+}
+
+bool drawRow(const BaseStyle & /*style*/, const PaintRequest & /*request*/)
+{
+    return false;
+}
+
+bool drawColumnGrip(const BaseStyle & /*style*/, const PaintRequest & /*request*/)
+{
+    return false;
+}
+
+bool drawItem(const BaseStyle & /*style*/, const PaintRequest & /*request*/)
+{
+    return false;
+}
+
 } // namespace TARN::ItemViews

@@ -25,4 +25,10 @@ void polishPalette(BaseStyle &style, QWidget &widget);
 /// Tells the view how its items are painted, unless it has a delegate of its own.
 void polishItems(BaseStyle &style, QWidget &widget);
 
+bool drawColumnArrow(const BaseStyle &style, const PaintRequest &request);
+bool drawItemPanel(const BaseStyle &style, const PaintRequest &request);
+bool drawRow(const BaseStyle &style, const PaintRequest &request);
+bool drawColumnGrip(const BaseStyle &style, const PaintRequest &request);
+bool drawItem(const BaseStyle &style, const PaintRequest &request);
+
 } // namespace TARN::ItemViews

@@ -26,4 +26,19 @@ void polish(BaseStyle & /*style*/, QWidget &widget)
     static_cast<QProgressBar &>(widget).setTextDirection(QProgressBar::BottomToTop);
 }
 
+bool drawGroove(const BaseStyle & /*style*/, const PaintRequest & /*request*/)
+{
+    return false;
+}
+
+bool drawContents(const BaseStyle & /*style*/, const PaintRequest & /*request*/)
+{
+    return false;
+}
+
+bool drawLabel(const BaseStyle & /*style*/, const PaintRequest & /*request*/)
+{
+    return false;
+}
+
 } // namespace TARN::ProgressBars

@@ -17,4 +17,8 @@ QSize progressBarSize(const BaseStyle &style, const ContentsRequest &request);
 
 void polish(BaseStyle &style, QWidget &widget);
 
+bool drawGroove(const BaseStyle &style, const PaintRequest &request);
+bool drawContents(const BaseStyle &style, const PaintRequest &request);
+bool drawLabel(const BaseStyle &style, const PaintRequest &request);
+
 } // namespace TARN::ProgressBars

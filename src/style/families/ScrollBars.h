@@ -14,4 +14,10 @@ namespace TARN::ScrollBars {
 QRect subControlRect(const BaseStyle &style, const SubControlRequest &request);
 QSize scrollBarSize(const BaseStyle &style, const ContentsRequest &request);
 
+bool drawCorner(const BaseStyle &style, const PaintRequest &request);
+bool drawAddLine(const BaseStyle &style, const PaintRequest &request);
+bool drawSubLine(const BaseStyle &style, const PaintRequest &request);
+bool drawHandle(const BaseStyle &style, const PaintRequest &request);
+bool drawScrollBar(const BaseStyle &style, const PaintRequest &request);
+
 } // namespace TARN::ScrollBars

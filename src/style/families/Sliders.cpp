@@ -128,4 +128,9 @@ void polishRangeSlider(BaseStyle & /*style*/, QWidget &widget)
     widget.setProperty("CornerRadius", ThemeResources::getCornerRadius(QStringLiteral("BaseSize")));
 }
 
+bool drawSlider(const BaseStyle & /*style*/, const PaintRequest & /*request*/)
+{
+    return false;
+}
+
 } // namespace TARN::Sliders

@@ -18,4 +18,6 @@ QSize sliderSize(const BaseStyle &style, const ContentsRequest &request);
 
 void polishRangeSlider(BaseStyle &style, QWidget &widget);
 
+bool drawSlider(const BaseStyle &style, const PaintRequest &request);
+
 } // namespace TARN::Sliders

@@ -59,4 +59,19 @@ QRect subControlRect(const BaseStyle &style, const SubControlRequest &request)
     return baseRect(style, request);
 }
 
+bool drawMinus(const BaseStyle & /*style*/, const PaintRequest & /*request*/)
+{
+    return false;
+}
+
+bool drawPlus(const BaseStyle & /*style*/, const PaintRequest & /*request*/)
+{
+    return false;
+}
+
+bool drawSpinBox(const BaseStyle & /*style*/, const PaintRequest & /*request*/)
+{
+    return false;
+}
+
 } // namespace TARN::SpinBoxes

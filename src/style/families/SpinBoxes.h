@@ -13,4 +13,8 @@ namespace TARN::SpinBoxes {
 
 QRect subControlRect(const BaseStyle &style, const SubControlRequest &request);
 
+bool drawMinus(const BaseStyle &style, const PaintRequest &request);
+bool drawPlus(const BaseStyle &style, const PaintRequest &request);
+bool drawSpinBox(const BaseStyle &style, const PaintRequest &request);
+
 } // namespace TARN::SpinBoxes

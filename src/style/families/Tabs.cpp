@@ -201,4 +201,29 @@ void polishFont(BaseStyle & /*style*/, QWidget &widget)
     setPolishedFont(widget, ThemeResources::getFont(fontSize(widget)));
 }
 
+bool drawWidgetFrame(const BaseStyle & /*style*/, const PaintRequest & /*request*/)
+{
+    return false;
+}
+
+bool drawBarBase(const BaseStyle & /*style*/, const PaintRequest & /*request*/)
+{
+    return false;
+}
+
+bool drawCloseIndicator(const BaseStyle & /*style*/, const PaintRequest & /*request*/)
+{
+    return false;
+}
+
+bool drawTabShape(const BaseStyle & /*style*/, const PaintRequest & /*request*/)
+{
+    return false;
+}
+
+bool drawTabLabel(const BaseStyle & /*style*/, const PaintRequest & /*request*/)
+{
+    return false;
+}
+
 } // namespace TARN::Tabs

@@ -20,4 +20,10 @@ QSize tabSize(const BaseStyle &style, const ContentsRequest &request);
 
 void polishFont(BaseStyle &style, QWidget &widget);
 
+bool drawWidgetFrame(const BaseStyle &style, const PaintRequest &request);
+bool drawBarBase(const BaseStyle &style, const PaintRequest &request);
+bool drawCloseIndicator(const BaseStyle &style, const PaintRequest &request);
+bool drawTabShape(const BaseStyle &style, const PaintRequest &request);
+bool drawTabLabel(const BaseStyle &style, const PaintRequest &request);
+
 } // namespace TARN::Tabs

@@ -24,4 +24,9 @@ void polishToolBox(BaseStyle & /*style*/, QWidget &widget)
     }
 }
 
+bool drawTabShape(const BaseStyle & /*style*/, const PaintRequest & /*request*/)
+{
+    return false;
+}
+
 } // namespace TARN::ToolBoxes

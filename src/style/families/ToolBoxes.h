@@ -1,5 +1,7 @@
 #pragma once
 
+#include "style/Requests.h"
+
 class QWidget;
 
 namespace TARN {
@@ -11,5 +13,7 @@ namespace TARN::ToolBoxes {
 
 void polishButton(BaseStyle &style, QWidget &widget);
 void polishToolBox(BaseStyle &style, QWidget &widget);
+
+bool drawTabShape(const BaseStyle &style, const PaintRequest &request);
 
 } // namespace TARN::ToolBoxes

@@ -42,4 +42,14 @@ void polishWindow(BaseStyle &style, QWidget &widget)
     }
 }
 
+bool drawFrame(const BaseStyle & /*style*/, const PaintRequest & /*request*/)
+{
+    return false;
+}
+
+bool drawBackground(const BaseStyle & /*style*/, const PaintRequest & /*request*/)
+{
+    return false;
+}
+
 } // namespace TARN::Windows

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "style/Requests.h"
+
 class QWidget;
 
 namespace TARN {
@@ -16,5 +18,8 @@ void polishDockWidget(BaseStyle &style, QWidget &widget);
 
 /// Has the style hear Alt in a window, be it one now or, as a dock, at times.
 void polishWindow(BaseStyle &style, QWidget &widget);
+
+bool drawFrame(const BaseStyle &style, const PaintRequest &request);
+bool drawBackground(const BaseStyle &style, const PaintRequest &request);
 
 } // namespace TARN::Windows

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "common_utils/Helpers.h"
+
+#include <QtCore/QRectF>
+#include <QtGui/QBrush>
+#include <QtGui/QIcon>
+#include <QtGui/QPen>
+
+class QPainter;
+
+/// What the families draw with.
+namespace TARN {
+
+/// The theme's corner radii.
+enum class CornerSize { Small, Base, Medium, Large };
+
+/// Returns the theme's radius, truncated to whole device-independent pixels.
+int cornerRadius(CornerSize size);
+
+/// Returns the rectangle along which an outline of one pixel runs just inside of \a rect.
+QRectF onHalfPixel(const QRect &rect);
+
+/// Returns the pen of outlines: one pixel wide, with mitred corners.
+QPen outlinePen(const QBrush &brush);
+
+/// Fills and strokes a rounded rectangle; \a radius 0 gives crisp corners without antialiasing.
+/// Changes the pen, the brush and the antialiasing of \a painter.
+void drawShape(QPainter &painter, const QRectF &rect, int radius, const QPen &pen,
+               const QBrush &brush,
+               Helpers::StraightCornerFlags straightCorners = Helpers::NoStraightCorner);
+
+/// Returns the theme's icon \a name, a string literal, which is looked up once for the process.
+const QIcon &keptIcon(const char *name);
+
+/// Draws \a icon in the middle of \a rect, on whole device pixels.
+void drawIcon(QPainter &painter, const QRect &rect, const QIcon &icon,
+              QIcon::Mode mode = QIcon::Normal, QIcon::State state = QIcon::Off);
+
+/// Draws \a icon as above, its foreground painted with \a brush.
+void drawTintedIcon(QPainter &painter, const QRect &rect, const QIcon &icon, const QBrush &brush);
+
+/// Sets \a brush, unless it is none, as the text of the button that \a option describes and tints
+/// the option's icon with it. The option is a QStyleOptionButton or a QStyleOptionToolButton.
+template <typename ButtonOption>
+void useForeground(ButtonOption &option, const QBrush &brush);
+
+} // namespace TARN

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "style/Requests.h"
+
+namespace TARN {
+class BaseStyle;
+}
+
+/// Splitters.
+namespace TARN::Splitters {
+
+bool drawHandle(const BaseStyle &style, const PaintRequest &request);
+
+} // namespace TARN::Splitters
