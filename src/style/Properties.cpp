@@ -2,28 +2,23 @@
 
 #include <algorithm>
 #include <array>
+#include <typeinfo>
 
 namespace TARN {
 
 namespace {
 
-/// Answers of classes to questions about names, each computed once unless another one took its
-/// place.
+/// Answers to questions about classes and names, each computed once unless another one took its
+/// place. A class is known by the address of something that is its alone.
 class ClassAnswers
 {
 public:
-    using Question = bool (*)(const QMetaObject &metaObject, const char *name);
-
-    explicit ClassAnswers(Question question)
-        : m_question(question)
+    template <typename Question>
+    bool answer(const void *classIdentity, const char *name, Question question)
     {
-    }
-
-    bool answer(const QMetaObject &metaObject, const char *name)
-    {
-        Entry &entry = m_entries.at(slotOf(&metaObject, name));
-        if (entry.metaObject != &metaObject || entry.name != name) {
-            entry = {&metaObject, name, m_question(metaObject, name)};
+        Entry &entry = m_entries.at(slotOf(classIdentity, name));
+        if (entry.classIdentity != classIdentity || entry.name != name) {
+            entry = {classIdentity, name, question()};
         }
         return entry.answer;
     }
@@ -31,7 +26,7 @@ public:
 private:
     struct Entry
     {
-        const QMetaObject *metaObject = nullptr;
+        const void *classIdentity = nullptr;
         const char *name = nullptr;
         bool answer = false;
     };
@@ -39,38 +34,25 @@ private:
     // Some forty names, asked of the few dozen classes that a window consists of.
     static constexpr std::size_t entryCount = 4096;
 
-    static std::size_t slotOf(const QMetaObject *metaObject, const char *name)
+    static std::size_t slotOf(const void *classIdentity, const char *name)
     {
-        // Meta objects are aligned, so their lowest bits tell nothing.
-        const auto object = reinterpret_cast<std::size_t>(metaObject) >> 3U;
-        return (object * 31 + reinterpret_cast<std::size_t>(name)) % entryCount;
+        // Such things are aligned, so their lowest bits tell nothing.
+        const auto identity = reinterpret_cast<std::size_t>(classIdentity) >> 3U;
+        return (identity * 31 + reinterpret_cast<std::size_t>(name)) % entryCount;
     }
 
-    Question m_question;
     std::array<Entry, entryCount> m_entries;
 };
-
-bool declaresProperty(const QMetaObject &metaObject, const char *name)
-{
-    return metaObject.indexOfProperty(name) >= 0;
-}
-
-bool inheritsClass(const QMetaObject &metaObject, const char *name)
-{
-    for (const QMetaObject *ancestor = &metaObject; ancestor; ancestor = ancestor->superClass()) {
-        if (qstrcmp(ancestor->className(), name) == 0) {
-            return true;
-        }
-    }
-    return false;
-}
 
 } // namespace
 
 bool hasProperty(const QObject &object, const char *property)
 {
-    static ClassAnswers declared(declaresProperty);
-    if (declared.answer(*object.metaObject(), property)) {
+    static ClassAnswers declared;
+    const QMetaObject *metaObject = object.metaObject();
+    const bool isDeclared = declared.answer(
+        metaObject, property, [&] { return metaObject->indexOfProperty(property) >= 0; });
+    if (isDeclared) {
         return true;
     }
     const QList<QByteArray> names = object.dynamicPropertyNames();
@@ -80,8 +62,10 @@ bool hasProperty(const QObject &object, const char *property)
 
 bool isA(const QObject *object, const char *className)
 {
-    static ClassAnswers inherited(inheritsClass);
-    return object && inherited.answer(*object->metaObject(), className);
+    static ClassAnswers inherited;
+    // Classes without a meta object of their own may know further names all the same.
+    return object && inherited.answer(&typeid(*object), className,
+                                      [&] { return object->inherits(className); });
 }
 
 } // namespace TARN
