@@ -1,5 +1,6 @@
 #include "style/BaseStyle.h"
 #include "style/Properties.h"
+#include "style/catalogue/ComposedBrushes.h"
 #include "style/catalogue/Names.h"
 #include "style/catalogue/Words.h"
 
@@ -34,10 +35,13 @@ bool isEditorFocused(const QComboBox &comboBox)
     return editor && editor->hasFocus();
 }
 
-QString uncheckedHover()
+const KindWord &highlightedKind()
 {
-    return Words::unchecked + Words::hover;
+    static const KindWord kind{QString(Words::highlighted)};
+    return kind;
 }
+
+constexpr StateWord uncheckedHover{CheckState::Unchecked, Interaction::Hover};
 
 /// Chooses the brushes of one button, or of the button-like part of an input: first by name from
 /// what the button is and its state, then by the exceptions that some kinds of buttons make.
@@ -53,16 +57,19 @@ private:
     bool hovered() const { return has(QStyle::State_MouseOver) && has(QStyle::State_Enabled); }
     bool hasFeature(QStyleOptionButton::ButtonFeature feature) const;
 
-    QString toggleWord() const;
-    QString kindWord() const;
-    QString stateWord() const;
-    QLatin1String checkWord() const;
+    KindWord kindWord() const;
+    StateWord stateWord() const;
+    CheckState checkState() const;
     bool menuArrowPressed() const;
 
-    QBrush brush(const QString &name) const { return BaseStyle::getBrush(name, m_enabled); }
-    QBrush buttonBrush(QLatin1String field) const;
-    QBrush inputBrush(QLatin1String field) const;
-    QBrush mainBrush() const { return themeBrush(BrushName::MainBrush, m_enabled); }
+    QBrush brush(ComposedWidget widget, const KindWord &kind, StateWord state,
+                 BrushField field) const
+    {
+        return composedBrush(widget, kind, state, field, m_enabled);
+    }
+    QBrush buttonBrush(BrushField field) const;
+    QBrush inputBrush(BrushField field) const;
+    const QBrush &mainBrush() const { return themeBrush(BrushName::MainBrush, m_enabled); }
     const QBrush &cardBorderBrush() const;
 
     void chooseByName();
@@ -81,9 +88,9 @@ private:
     const QWidget *m_widget;
     const QObject *m_parent;
     bool m_enabled;
-    QString m_toggle;
-    QString m_kind;
-    QString m_state;
+    bool m_checkable;
+    KindWord m_kind;
+    StateWord m_state;
     BaseStyle::ButtonBrushes m_brushes;
 };
 
@@ -93,7 +100,7 @@ ButtonBrushChooser::ButtonBrushChooser(const QStyleOption &option, const QWidget
     , m_widget(widget)
     , m_parent(widget ? widget->parent() : nullptr)
     , m_enabled(!widget || widget->isEnabled())
-    , m_toggle(toggleWord())
+    , m_checkable(isSet(widget, "checkable"))
     , m_kind(kindWord())
     , m_state(stateWord())
 {
@@ -116,51 +123,43 @@ bool ButtonBrushChooser::hasFeature(QStyleOptionButton::ButtonFeature feature) c
     return m_pushButton && m_pushButton->features.testFlag(feature);
 }
 
-QString ButtonBrushChooser::toggleWord() const
+KindWord ButtonBrushChooser::kindWord() const
 {
-    return isSet(m_widget, "checkable") ? QString(Words::toggle) : QString();
-}
-
-QString ButtonBrushChooser::kindWord() const
-{
-    if (!m_widget) {
-        return {};
-    }
     if (isSet(m_widget, "highlighted")) {
-        return Words::highlighted;
+        return highlightedKind();
     }
     for (const char *property : {"Status", "Order", "ButtonType"}) {
-        QString kind = m_widget->property(property).toString();
+        const QString kind = propertyOf(m_widget, property).toString();
         if (!kind.isEmpty()) {
-            return kind;
+            return KindWord(kind);
         }
     }
     return {};
 }
 
-QString ButtonBrushChooser::stateWord() const
+StateWord ButtonBrushChooser::stateWord() const
 {
     const bool calendarButton =
         m_widget && m_widget->objectName().contains(QLatin1String("qt_calendar_"));
     if ((calendarButton && !has(QStyle::State_Sunken)) || menuArrowPressed()) {
-        return uncheckedHover();
+        return uncheckedHover;
     }
     if (has(QStyle::State_Sunken)) {
-        return checkWord() + Words::pressed;
+        return {checkState(), Interaction::Pressed};
     }
-    return hovered() ? checkWord() + Words::hover : checkWord();
+    return {checkState(), hovered() ? Interaction::Hover : Interaction::None};
 }
 
-QLatin1String ButtonBrushChooser::checkWord() const
+CheckState ButtonBrushChooser::checkState() const
 {
     if (isSet(m_widget, "blinking")) {
-        return isSet(m_widget, "blink_checked") ? Words::checked : Words::unchecked;
+        return isSet(m_widget, "blink_checked") ? CheckState::Checked : CheckState::Unchecked;
     }
     if (hasFeature(QStyleOptionButton::DefaultButton) && has(QStyle::State_Enabled) &&
         has(QStyle::State_Active)) {
-        return Words::isDefault;
+        return CheckState::Default;
     }
-    return has(QStyle::State_On) ? Words::checked : Words::unchecked;
+    return has(QStyle::State_On) ? CheckState::Checked : CheckState::Unchecked;
 }
 
 /// Pressing the menu arrow of a tool button leaves its face looking merely hovered.
@@ -176,14 +175,16 @@ bool ButtonBrushChooser::menuArrowPressed() const
                                                         m_widget) == QStyle::SC_ToolButtonMenu;
 }
 
-QBrush ButtonBrushChooser::buttonBrush(QLatin1String field) const
+QBrush ButtonBrushChooser::buttonBrush(BrushField field) const
 {
-    return brush(Words::buttonBrush(m_toggle, m_kind, m_state, field));
+    const ComposedWidget widget =
+        m_checkable ? ComposedWidget::ToggleButton : ComposedWidget::Button;
+    return brush(widget, m_kind, m_state, field);
 }
 
-QBrush ButtonBrushChooser::inputBrush(QLatin1String field) const
+QBrush ButtonBrushChooser::inputBrush(BrushField field) const
 {
-    return brush(Words::inputBrush(m_kind, m_state, field));
+    return brush(ComposedWidget::Input, m_kind, m_state, field);
 }
 
 const QBrush &ButtonBrushChooser::cardBorderBrush() const
@@ -193,9 +194,9 @@ const QBrush &ButtonBrushChooser::cardBorderBrush() const
 
 void ButtonBrushChooser::chooseByName()
 {
-    m_brushes.background = buttonBrush(Words::background);
-    m_brushes.border = buttonBrush(Words::border);
-    m_brushes.foreground = buttonBrush(Words::foreground);
+    m_brushes.background = buttonBrush(BrushField::Background);
+    m_brushes.border = buttonBrush(BrushField::Border);
+    m_brushes.foreground = buttonBrush(BrushField::Foreground);
 }
 
 void ButtonBrushChooser::chooseForFlatButton()
@@ -204,10 +205,10 @@ void ButtonBrushChooser::chooseForFlatButton()
         return;
     }
     m_brushes.border = m_brushes.background;
-    const bool prominent = isSet(m_widget, "highlighted") || m_kind == Words::borea;
+    const bool prominent = isSet(m_widget, "highlighted") || m_kind.name() == Words::borea;
     if (prominent && has(QStyle::State_Sunken)) {
-        m_brushes.foreground = brush(
-            Words::buttonBrush(QString(), Words::highlighted, uncheckedHover(), Words::foreground));
+        m_brushes.foreground = brush(ComposedWidget::Button, highlightedKind(), uncheckedHover,
+                                     BrushField::Foreground);
     }
 }
 
@@ -218,7 +219,7 @@ void ButtonBrushChooser::chooseForOutlineButton()
     }
     if (hovered() && has(QStyle::State_On) && !has(QStyle::State_Sunken)) {
         m_brushes.border =
-            brush(Words::buttonBrush(QString(), m_kind, uncheckedHover(), Words::background));
+            brush(ComposedWidget::Button, m_kind, uncheckedHover, BrushField::Background);
         return;
     }
     m_brushes.border = m_brushes.background;
@@ -241,11 +242,11 @@ void ButtonBrushChooser::chooseForInput()
 
 void ButtonBrushChooser::chooseForCalendarEdit(const QDateTimeEdit &edit)
 {
-    m_brushes.background = inputBrush(Words::background);
+    m_brushes.background = inputBrush(BrushField::Background);
     if (!edit.hasFrame()) {
         m_brushes.border = m_brushes.background;
     } else {
-        m_brushes.border = edit.hasFocus() ? mainBrush() : inputBrush(Words::border);
+        m_brushes.border = edit.hasFocus() ? mainBrush() : inputBrush(BrushField::Border);
     }
 }
 
@@ -253,16 +254,16 @@ void ButtonBrushChooser::chooseForSpinBox()
 {
     // Spin boxes show no hover shade: only their buttons do.
     m_brushes.background =
-        hovered() ? brush(Words::inputBrush(QString(), Words::unchecked, Words::background))
-                  : inputBrush(Words::background);
+        hovered() ? brush(ComposedWidget::Input, KindWord(), StateWord(), BrushField::Background)
+                  : inputBrush(BrushField::Background);
     m_brushes.border = m_brushes.background;
 }
 
 void ButtonBrushChooser::chooseForComboBox(const QComboBox &comboBox)
 {
-    m_brushes.background = inputBrush(Words::background);
-    m_brushes.border = inputBrush(Words::border);
-    m_brushes.foreground = inputBrush(Words::foreground);
+    m_brushes.background = inputBrush(BrushField::Background);
+    m_brushes.border = inputBrush(BrushField::Border);
+    m_brushes.foreground = inputBrush(BrushField::Foreground);
     if (!comboBox.hasFrame()) {
         m_brushes.border = m_brushes.background;
     } else if (isPopupVisible(comboBox)) {
@@ -302,12 +303,12 @@ void ButtonBrushChooser::chooseForWorkflowButton()
         } else {
             // The text of a step that is not the current one is as faint as its border.
             m_brushes.foreground =
-                brush(Words::buttonBrush(QString(), m_kind, m_state, Words::border));
+                brush(ComposedWidget::Button, m_kind, m_state, BrushField::Border);
         }
     }
     if (has(QStyle::State_MouseOver) && !has(QStyle::State_Sunken)) {
         m_brushes.border = mainBrush();
-        if (!m_toggle.isEmpty()) {
+        if (m_checkable) {
             m_brushes.foreground = m_brushes.border;
         }
     }

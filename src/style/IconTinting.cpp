@@ -3,8 +3,8 @@
 #include "resources/ThemeColorHelper.h"
 #include "resources/ThemeResources.h"
 #include "style/BaseStyle.h"
+#include "style/catalogue/ComposedBrushes.h"
 #include "style/catalogue/Names.h"
-#include "style/catalogue/Words.h"
 
 #include <QtGui/QPalette>
 #include <QtWidgets/QAction>
@@ -69,11 +69,11 @@ void tintClearButton(QToolButton &button)
     }
 }
 
-/// Returns the name of the brush that draws the text of a plain button under the mouse.
-QString hoveredForeground()
+/// Returns the brush that draws the text of a plain button under the mouse.
+QBrush hoveredForeground()
 {
-    return Words::buttonBrush(QString(), QString(), Words::unchecked + Words::hover,
-                              Words::foreground);
+    return composedBrush(ComposedWidget::Button, KindWord(),
+                         {CheckState::Unchecked, Interaction::Hover}, BrushField::Foreground, true);
 }
 
 void tintCommandLink(QCommandLinkButton &button)
@@ -85,8 +85,7 @@ void tintCommandLink(QCommandLinkButton &button)
         button.setProperty(originalIconProperty, button.icon());
     }
     const bool isHighlighted = !button.isChecked() && !button.isDown() && isHovered(button);
-    const QBrush tint = isHighlighted ? BaseStyle::getBrush(hoveredForeground(), true)
-                                      : button.palette().buttonText();
+    const QBrush tint = isHighlighted ? hoveredForeground() : button.palette().buttonText();
     if (!isTinted(button, tint)) {
         setTintedIcon(button, button.property(originalIconProperty).value<QIcon>(), tint);
     }

@@ -24,8 +24,6 @@ constexpr const char *pendingVariables[] = {
     "colors/BackgroundUpLevel2Color",
     "colors/MainUpLevel1Color",
     "colors/StatusDangerColor",
-    "cornerRadius/LargeSize",
-    "cornerRadius/SmallSize",
     "opacities/RubberBandOpacity",
 };
 
