@@ -1,11 +1,14 @@
-#include "common_utils/Helpers.h"
+#include "common_utils/RoundedRectOutline.h"
+#include "common_utils/RoundedRectTiles.h"
 
 #include <QtGui/QPainter>
 #include <QtGui/QPainterPath>
 
-namespace TARN::Helpers {
+namespace TARN {
 
 namespace {
+
+using namespace Helpers;
 
 constexpr StraightCornerFlags allCorners = StraightCornerFlags(
     StraightTopLeft | StraightTopRight | StraightBottomRight | StraightBottomLeft);
@@ -54,8 +57,21 @@ QPainterPath outline(const QRectF &rect, qreal radius, StraightCornerFlags strai
 
 } // namespace
 
-void drawRoundedRectShape(const QRectF &rect, int radius,
-                          QFlags<StraightCornerFlag> straightCorners, QPainter *painter)
+void drawOutline(const QRectF &rect, qreal radius, StraightCornerFlags straightCorners,
+                 QPainter &painter)
+{
+    const StraightCornerFlags straight = straightCorners & allCorners;
+    if (radius <= 0 || straight == allCorners) {
+        painter.drawRect(rect);
+    } else if (!straight) {
+        painter.drawRoundedRect(rect, radius, radius);
+    } else {
+        painter.drawPath(outline(rect, radius, straight));
+    }
+}
+
+void Helpers::drawRoundedRectShape(const QRectF &rect, int radius,
+                                   QFlags<StraightCornerFlag> straightCorners, QPainter *painter)
 {
     if (painter == nullptr || !isPaintable(rect)) {
         return;
@@ -64,15 +80,10 @@ void drawRoundedRectShape(const QRectF &rect, int radius,
     if (shape.isEmpty()) {
         return;
     }
-    const StraightCornerFlags straight = straightCorners & allCorners;
-    const qreal roundness = qMin<qreal>(radius, qMin(shape.width(), shape.height()) / 2);
-    if (roundness <= 0 || straight == allCorners) {
-        painter->drawRect(shape);
-    } else if (!straight) {
-        painter->drawRoundedRect(shape, roundness, roundness);
-    } else {
-        painter->drawPath(outline(shape, roundness, straight));
+    const qreal roundness = qMin<qreal>(qMax(radius, 0), qMin(shape.width(), shape.height()) / 2);
+    if (!drawFromTile(shape, roundness, straightCorners & allCorners, *painter)) {
+        drawOutline(shape, roundness, straightCorners, *painter);
     }
 }
 
-} // namespace TARN::Helpers
+} // namespace TARN
