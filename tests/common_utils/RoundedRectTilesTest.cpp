@@ -4,7 +4,9 @@
 #include <QtGui/QPainterPath>
 #include <QtTest/QtTest>
 
+#include <algorithm>
 #include <array>
+#include <cstdlib>
 #include <support/Text.h>
 
 using namespace TARN::Helpers;
@@ -73,12 +75,10 @@ int largestDifference(const QImage &a, const QImage &b)
 {
     int largest = 0;
     for (int y = 0; y < a.height(); ++y) {
-        for (int x = 0; x < a.width(); ++x) {
-            const QColor first = a.pixelColor(x, y);
-            const QColor second = b.pixelColor(x, y);
-            largest = std::max({largest, qAbs(first.red() - second.red()),
-                                qAbs(first.green() - second.green()),
-                                qAbs(first.blue() - second.blue())});
+        const uchar *first = a.constScanLine(y);
+        const uchar *second = b.constScanLine(y);
+        for (int i = 0; i < a.bytesPerLine(); ++i) {
+            largest = std::max(largest, std::abs(first[i] - second[i]));
         }
     }
     return largest;
