@@ -4,6 +4,7 @@
 
 #include <QtCore/QRect>
 
+class QStyleOptionViewItem;
 class QWidget;
 
 namespace TARN {
@@ -24,6 +25,9 @@ int listViewPadding(const BaseStyle &style);
 void polishPalette(BaseStyle &style, QWidget &widget);
 /// Tells the view how its items are painted, unless it has a delegate of its own.
 void polishItems(BaseStyle &style, QWidget &widget);
+
+/// Tells whether the view marks the item because the mouse is over it.
+bool showsHover(const QStyleOptionViewItem &option, const QWidget *widget);
 
 bool drawColumnArrow(const BaseStyle &style, const PaintRequest &request);
 bool drawItemPanel(const BaseStyle &style, const PaintRequest &request);
