@@ -1,13 +1,19 @@
 #include "style/families/ComboBoxes.h"
 
+#include "resources/ThemeColorHelper.h"
 #include "style/BaseStyle.h"
 #include "style/ComboBoxDefaultItemDelegate.h"
+#include "style/Drawing.h"
 #include "style/Geometry.h"
+#include "style/OptionState.h"
 #include "style/Properties.h"
+#include "style/catalogue/Names.h"
 #include "style/families/Buttons.h"
+#include "style/families/Inputs.h"
 
+#include <QtGui/QPainter>
+#include <QtGui/QWindow>
 #include <QtWidgets/QComboBox>
-#include <QtWidgets/QStyleOption>
 
 namespace TARN::ComboBoxes {
 
@@ -46,6 +52,196 @@ QRect arrowRect(const BaseStyle &style, const SubControlRequest &request)
     return rect;
 }
 
+/// A combo box together with its option, which is always of its type.
+struct ComboBoxRequest
+{
+    const BaseStyle &style;
+    const PaintRequest &request;
+    const QStyleOptionComboBox &option;
+
+    QRect subControlRect(QStyle::SubControl subControl) const
+    {
+        return style.proxy()->subControlRect(QStyle::CC_ComboBox, &option, subControl,
+                                             request.widget);
+    }
+
+    void drawPrimitive(QStyle::PrimitiveElement element, const QStyleOption &part) const
+    {
+        style.proxy()->drawPrimitive(element, &part, request.painter, request.widget);
+    }
+};
+
+/// Mirrors the parts of a combo box that cannot be edited: wherever it is clicked, it opens. The
+/// editor of any other stands where the sub-controls are, and these are not mirrored.
+QRect visualPart(const QStyleOptionComboBox &option, const QRect &rect)
+{
+    return option.editable ? rect : QStyle::visualRect(option.direction, option.rect, rect);
+}
+
+/// Returns how far the arrow makes way for the error mark at the end of the button. An editable
+/// combo box has the mark in its field.
+int errorMarkRoom(const ComboBoxRequest &comboBox)
+{
+    constexpr int markAndMargin = 20;
+    const bool hasMark = !comboBox.option.editable && Inputs::isInError(comboBox.request.widget);
+    return hasMark ? qMin(markAndMargin, comboBox.option.rect.height()) : 0;
+}
+
+/// Returns where the arrow is painted, before it is mirrored.
+QRect paintedArrowRect(const ComboBoxRequest &comboBox)
+{
+    return comboBox.subControlRect(QStyle::SC_ComboBoxArrow)
+        .translated(-errorMarkRoom(comboBox), 0);
+}
+
+void drawField(const ComboBoxRequest &comboBox)
+{
+    if (comboBox.option.frame) {
+        comboBox.drawPrimitive(QStyle::PE_FrameLineEdit, comboBox.option);
+        return;
+    }
+    QStyleOptionFrame panel;
+    panel.QStyleOption::operator=(comboBox.option);
+    comboBox.drawPrimitive(QStyle::PE_PanelLineEdit, panel);
+}
+
+void drawFocusRect(const ComboBoxRequest &comboBox)
+{
+    // Midway between the outline and the text.
+    constexpr int margin = 2;
+    QStyleOptionFocusRect focus;
+    focus.QStyleOption::operator=(comboBox.option);
+    focus.rect = comboBox.option.rect.adjusted(margin, margin, -margin, -margin);
+    comboBox.drawPrimitive(QStyle::PE_FrameFocusRect, focus);
+}
+
+void drawButton(const ComboBoxRequest &comboBox)
+{
+    QStyleOptionButton button;
+    button.QStyleOption::operator=(comboBox.option);
+    comboBox.drawPrimitive(
+        QStyle::PE_PanelButtonCommand,
+        *comboBox.style.commonCallButtonText<QStyleOptionButton>(&button, comboBox.request.widget));
+    if (has(comboBox.option, QStyle::State_HasFocus)) {
+        drawFocusRect(comboBox);
+    }
+}
+
+void drawArrow(const ComboBoxRequest &comboBox)
+{
+    const QStyleOptionComboBox &option = comboBox.option;
+    QStyleOption arrow(option);
+    arrow.rect = visualPart(option, paintedArrowRect(comboBox));
+    // Only the arrow opens a combo box that can be edited, so only there the mouse is answered.
+    if (option.editable && !option.activeSubControls.testFlag(QStyle::SC_ComboBoxArrow)) {
+        arrow.state &= ~(QStyle::State_MouseOver | QStyle::State_Sunken);
+    }
+    comboBox.drawPrimitive(QStyle::PE_IndicatorArrowDown, arrow);
+}
+
+/// Returns the room for icon and text, which ends where the arrow begins.
+QRect labelRect(const ComboBoxRequest &comboBox)
+{
+    QRect rect = comboBox.subControlRect(QStyle::SC_ComboBoxEditField);
+    if (!comboBox.option.editable) {
+        const int arrowCenter = paintedArrowRect(comboBox).center().x();
+        const int arrowReach = comboBox.style.proxy()->pixelMetric(
+            QStyle::PM_MenuButtonIndicator, &comboBox.option, comboBox.request.widget);
+        rect.setRight(qMin(rect.right(), arrowCenter - arrowReach));
+    }
+    return visualPart(comboBox.option, rect);
+}
+
+/// Returns the rectangle of the icon and the space around it, for which the toolkit makes room
+/// before the editor.
+QRect iconRect(const QStyleOptionComboBox &option, const QRect &label)
+{
+    constexpr int space = 4;
+    return QStyle::alignedRect(option.direction, Qt::AlignLeft | Qt::AlignVCenter,
+                               {option.iconSize.width() + space, label.height()}, label);
+}
+
+/// Draws the ground of the icon beside an editor, and the line between them.
+void drawIconField(const ComboBoxRequest &comboBox, const QRect &rect)
+{
+    const bool enabled = isEnabled(comboBox.option);
+    QPainter &painter = *comboBox.request.painter;
+    const QBrush ground = Inputs::fieldBrush(enabled);
+    if (ground.isOpaque()) {
+        drawShape(painter, QRectF(rect).adjusted(0.5, 2.5, -0.5, -2.5),
+                  cornerRadius(CornerSize::Small), outlinePen(ground), ground);
+    }
+    const bool isOfComboBox = qobject_cast<const QComboBox *>(comboBox.request.widget) != nullptr;
+    const QRect line(isRightToLeft(comboBox.option) ? rect.left() : rect.right(), rect.top() + 3, 1,
+                     rect.height() - 6);
+    painter.fillRect(line, themeBrush(isOfComboBox ? BrushName::BackgroundSubLevel2Brush
+                                                   : BrushName::BackgroundUpLevel1Brush,
+                                      enabled));
+}
+
+void drawLabelIcon(const ComboBoxRequest &comboBox, const QRect &rect)
+{
+    const QStyleOptionComboBox &option = comboBox.option;
+    const QWidget *widget = comboBox.request.widget;
+    if (option.editable) {
+        drawIconField(comboBox, rect);
+    }
+    const QIcon icon = ThemeColorHelper::getModifiedIconWithForegroundBrush(
+        option.currentIcon, BaseStyle::buttonBrushes(&option, widget).foreground);
+    QWindow *window = widget ? widget->window()->windowHandle() : nullptr;
+    const QPixmap pixmap =
+        icon.pixmap(window, option.iconSize, isEnabled(option) ? QIcon::Normal : QIcon::Disabled);
+    comboBox.style.proxy()->drawItemPixmap(comboBox.request.painter, rect, Qt::AlignCenter, pixmap);
+}
+
+/// Tells whether the text of the label only tells what could be chosen.
+bool isPlaceholder(const ComboBoxRequest &comboBox)
+{
+    const auto *widget = qobject_cast<const QComboBox *>(comboBox.request.widget);
+    return widget && widget->currentIndex() < 0;
+}
+
+/// Returns the text as far as there is room for it. Measuring takes long, and hardly a glyph is
+/// wider than a line is high.
+QString fittingText(const QStyleOptionComboBox &option, int width)
+{
+    const QFontMetrics &metrics = option.fontMetrics;
+    const bool surelyFits = qint64(option.currentText.size()) * metrics.height() <= width;
+    return surelyFits ? option.currentText
+                      : metrics.elidedText(option.currentText, Qt::ElideRight, width);
+}
+
+void drawLabelText(const ComboBoxRequest &comboBox, const QRect &rect)
+{
+    const QStyleOptionComboBox &option = comboBox.option;
+    const bool enabled = isEnabled(option);
+    QPalette palette = option.palette;
+    if (!isPlaceholder(comboBox)) {
+        palette.setBrush(enabled ? palette.currentColorGroup() : QPalette::Disabled,
+                         QPalette::ButtonText, themeBrush(BrushName::ForegroundBrush, enabled));
+    }
+    const Qt::Alignment side =
+        QStyle::visualAlignment(option.direction, Qt::AlignLeft | Qt::AlignVCenter);
+    comboBox.style.proxy()->drawItemText(comboBox.request.painter, rect, int(side), palette,
+                                         enabled, fittingText(option, rect.width()),
+                                         QPalette::ButtonText);
+}
+
+/// Draws icon and text, of which the text of a combo box that can be edited is the editor's.
+void drawLabelParts(const ComboBoxRequest &comboBox)
+{
+    const QStyleOptionComboBox &option = comboBox.option;
+    QRect rect = labelRect(comboBox);
+    if (!option.currentIcon.isNull()) {
+        const QRect icon = iconRect(option, rect);
+        drawLabelIcon(comboBox, icon);
+        isRightToLeft(option) ? rect.setRight(icon.left() - 1) : rect.setLeft(icon.right() + 1);
+    }
+    if (!option.editable && !option.currentText.isEmpty()) {
+        drawLabelText(comboBox, rect.adjusted(1, 0, -1, 0));
+    }
+}
+
 } // namespace
 
 QRect subControlRect(const BaseStyle &style, const SubControlRequest &request)
@@ -82,14 +278,31 @@ void polishDelegate(BaseStyle &style, QWidget &widget)
     }
 }
 
-bool drawLabel(const BaseStyle & /*style*/, const PaintRequest & /*request*/)
+bool drawLabel(const BaseStyle &style, const PaintRequest &request)
 {
-    return false;
+    const auto *option = qstyleoption_cast<const QStyleOptionComboBox *>(request.option);
+    if (option) {
+        drawLabelParts({style, request, *option});
+    }
+    return option != nullptr;
 }
 
-bool drawComboBox(const BaseStyle & /*style*/, const PaintRequest & /*request*/)
+bool drawComboBox(const BaseStyle &style, const PaintRequest &request)
 {
-    return false;
+    const auto *option = qstyleoption_cast<const QStyleOptionComboBox *>(request.option);
+    if (!option) {
+        return false;
+    }
+    const ComboBoxRequest comboBox{style, request, *option};
+    if (option->editable) {
+        drawField(comboBox);
+    } else {
+        drawButton(comboBox);
+    }
+    if (option->subControls.testFlag(QStyle::SC_ComboBoxArrow)) {
+        drawArrow(comboBox);
+    }
+    return true;
 }
 
 } // namespace TARN::ComboBoxes

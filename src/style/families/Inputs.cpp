@@ -1,11 +1,149 @@
 #include "style/families/Inputs.h"
 
 #include "style/BaseStyle.h"
+#include "style/Drawing.h"
 #include "style/Geometry.h"
 #include "style/IconTinting.h"
+#include "style/OptionState.h"
+#include "style/Properties.h"
+#include "style/catalogue/ComposedBrushes.h"
+#include "style/catalogue/Names.h"
 #include "style/families/Buttons.h"
 
+#include <QtGui/QPainter>
+#include <QtWidgets/QAbstractSpinBox>
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QDateTimeEdit>
+
 namespace TARN::Inputs {
+
+namespace {
+
+/// Set in the option of a frame that lies on a panel: the panel is its ground. A translucent ground
+/// that was painted twice would look like another brush, and the panel's says whether the input has
+/// the focus.
+constexpr auto liesOnPanel = QStyleOptionFrame::Flat;
+
+bool isTextEdit(const QWidget *widget)
+{
+    return isA(widget, "QTextEdit") || isA(widget, "QPlainTextEdit");
+}
+
+/// The option of a text edit does not tell.
+bool isReadOnly(const PaintRequest &request)
+{
+    return has(*request.option, QStyle::State_ReadOnly) ||
+           (isTextEdit(request.widget) && isSet(request.widget, "readOnly"));
+}
+
+QPen framePen(const PaintRequest &request)
+{
+    const QStyleOption &option = *request.option;
+    if (isInError(request.widget)) {
+        return outlinePen(errorBrush(isEnabled(option)));
+    }
+    if (has(option, QStyle::State_HasFocus)) {
+        return outlinePen(themeBrush(BrushName::InputBorderActiveBrush, isEnabled(option)));
+    }
+    // The text of a read-only input is as legible as any; its outline is as faint as that of a
+    // disabled one, for there is nothing to be typed in.
+    const bool isPlain = isEnabled(option) && !isReadOnly(request);
+    return outlinePen(themeBrush(BrushName::InputBorderBrush, isPlain));
+}
+
+QBrush frameGround(const PaintRequest &request)
+{
+    const auto *frame = qstyleoption_cast<const QStyleOptionFrame *>(request.option);
+    if (frame && frame->features.testFlag(liesOnPanel)) {
+        return Qt::NoBrush;
+    }
+    // A combo box whose list is open looks like that whether it can be edited or not.
+    const bool isListOpen = has(*request.option, QStyle::State_On);
+    if (isListOpen && qobject_cast<const QComboBox *>(request.widget)) {
+        return BaseStyle::buttonBrushes(request.option, request.widget).background;
+    }
+    return fieldBrush(isEnabled(*request.option));
+}
+
+/// Returns what the error mark has to itself: the arrow of a combo box stands beside it.
+QRect errorMarkArea(const BaseStyle &style, const PaintRequest &request)
+{
+    const auto *comboBox = qstyleoption_cast<const QStyleOptionComboBox *>(request.option);
+    return comboBox ? style.proxy()->subControlRect(QStyle::CC_ComboBox, comboBox,
+                                                    QStyle::SC_ComboBoxEditField, request.widget)
+                    : request.option->rect;
+}
+
+void drawErrorMark(const BaseStyle &style, const PaintRequest &request)
+{
+    QPainter &painter = *request.painter;
+    const Qt::LayoutDirection direction = painter.layoutDirection();
+    painter.setLayoutDirection(request.option->direction);
+    Helpers::drawInputStatusIndicator(
+        errorMarkArea(style, request), cornerRadius(CornerSize::Base),
+        themeColor(ColorName::StatusDangerColor, isEnabled(*request.option)), &painter);
+    painter.setLayoutDirection(direction);
+}
+
+/// Tells whether \a widget is the editor of something that looks like a combo box, which paints the
+/// ground of its editor itself.
+bool isComboBoxEditor(const QWidget *widget)
+{
+    const QWidget *parent = widget ? widget->parentWidget() : nullptr;
+    if (const auto *edit = qobject_cast<const QDateTimeEdit *>(parent)) {
+        return edit->calendarPopup() &&
+               (edit->displayedSections() & QDateTimeEdit::DateSections_Mask);
+    }
+    return isA(parent, "QComboBox");
+}
+
+/// Draws the ground of the editor of \a spinBox, the same as that of the spin box: it shows that it
+/// has the focus by its outline.
+void drawSpinBoxPanel(const PaintRequest &request, const QAbstractSpinBox &spinBox)
+{
+    const QStyleOption &option = *request.option;
+    const QBrush ground = fieldBrush(isEnabled(option));
+    if (!ground.isOpaque()) {
+        return;
+    }
+    QRectF rect(option.rect);
+    if (spinBox.buttonSymbols() == QAbstractSpinBox::NoButtons) {
+        // The editor without buttons beside it reaches over the outline of the spin box.
+        constexpr qreal excess = 2.0;
+        rect = isRightToLeft(option) ? rect.adjusted(excess, 0, 0, 0)
+                                     : rect.adjusted(0, 0, -excess, 0);
+    }
+    drawShape(*request.painter, rect, cornerRadius(CornerSize::Base), Qt::NoPen, ground);
+}
+
+void drawOwnPanel(const PaintRequest &request, bool hasFrame)
+{
+    const QStyleOption &option = *request.option;
+    const bool enabled = isEnabled(option);
+    const bool isActive =
+        has(option, QStyle::State_HasFocus) && !has(option, QStyle::State_ReadOnly);
+    const QBrush ground =
+        isActive ? themeBrush(BrushName::InputBackgroundActiveBrush, enabled) : fieldBrush(enabled);
+    // Below a frame the ground ends in the middle of the outline, whose corners it would outgrow.
+    const QRectF rect = hasFrame ? onHalfPixel(option.rect) : QRectF(option.rect);
+    drawShape(*request.painter, rect, cornerRadius(CornerSize::Base), Qt::NoPen, ground);
+}
+
+void drawPanel(const PaintRequest &request, bool hasFrame)
+{
+    // The ground of a combo box changes with the mouse on its arrow, which its editor cannot know.
+    if (isComboBoxEditor(request.widget)) {
+        return;
+    }
+    const QWidget *parent = request.widget ? request.widget->parentWidget() : nullptr;
+    if (const auto *spinBox = qobject_cast<const QAbstractSpinBox *>(parent)) {
+        drawSpinBoxPanel(request, *spinBox);
+    } else {
+        drawOwnPanel(request, hasFrame);
+    }
+}
+
+} // namespace
 
 QSize lineEditSize(const BaseStyle &style, const ContentsRequest &request)
 {
@@ -17,19 +155,67 @@ void polishClearButton(BaseStyle &style, QWidget &widget)
     tintOnPaint(style, widget);
 }
 
-bool drawFrame(const BaseStyle & /*style*/, const PaintRequest & /*request*/)
+QBrush fieldBrush(bool enabled)
 {
-    return false;
+    return composedBrush(ComposedWidget::Input, KindWord(), StateWord(), BrushField::Background,
+                         enabled);
 }
 
-bool drawLineEditFrame(const BaseStyle & /*style*/, const PaintRequest & /*request*/)
+bool isInError(const QWidget *widget)
 {
-    return false;
+    return isSet(widget, "drawErrorIndicator");
 }
 
-bool drawLineEditPanel(const BaseStyle & /*style*/, const PaintRequest & /*request*/)
+QBrush errorBrush(bool enabled)
 {
-    return false;
+    return themeColor(ColorName::StatusDangerColor, enabled);
+}
+
+bool drawFrame(const BaseStyle &style, const PaintRequest &request)
+{
+    const QStyleOption &option = *request.option;
+    if (isTextEdit(request.widget)) {
+        return drawLineEditFrame(style, request);
+    }
+    if (isA(request.widget, "QComboBoxPrivateContainer")) {
+        QStyleOption panel(option);
+        panel.state |= QStyle::State_Raised;
+        style.proxy()->drawPrimitive(QStyle::PE_PanelMenu, &panel, request.painter, request.widget);
+        return true;
+    }
+    drawShape(*request.painter, onHalfPixel(option.rect), 0,
+              outlinePen(BaseStyle::getBorderBrush(isEnabled(option))), Qt::NoBrush);
+    return true;
+}
+
+bool drawLineEditFrame(const BaseStyle &style, const PaintRequest &request)
+{
+    // The page of a text edit has square corners, which would cut off round ones of its frame.
+    const bool isSquare = isTextEdit(request.widget);
+    drawShape(*request.painter, onHalfPixel(request.option->rect),
+              isSquare ? 0 : cornerRadius(CornerSize::Base), framePen(request),
+              frameGround(request));
+    if (isInError(request.widget)) {
+        drawErrorMark(style, request);
+    }
+    return true;
+}
+
+bool drawLineEditPanel(const BaseStyle &style, const PaintRequest &request)
+{
+    const auto *option = qstyleoption_cast<const QStyleOptionFrame *>(request.option);
+    if (!option) {
+        return false;
+    }
+    const bool hasFrame = option->lineWidth > 0;
+    drawPanel(request, hasFrame);
+    if (hasFrame) {
+        QStyleOptionFrame frame(*option);
+        frame.features |= liesOnPanel;
+        style.proxy()->drawPrimitive(QStyle::PE_FrameLineEdit, &frame, request.painter,
+                                     request.widget);
+    }
+    return true;
 }
 
 } // namespace TARN::Inputs

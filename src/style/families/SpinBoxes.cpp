@@ -1,9 +1,14 @@
 #include "style/families/SpinBoxes.h"
 
 #include "style/BaseStyle.h"
+#include "style/Drawing.h"
 #include "style/Geometry.h"
+#include "style/OptionState.h"
+#include "style/catalogue/ComposedBrushes.h"
+#include "style/catalogue/Names.h"
+#include "style/families/Inputs.h"
 
-#include <QtWidgets/QStyleOption>
+#include <QtGui/QPainter>
 
 namespace TARN::SpinBoxes {
 
@@ -29,6 +34,184 @@ QRect editFieldRect(const QRect &rect, bool hasButtons)
 {
     const int right = rect.width() - (hasButtons ? buttonsLeft + 1 : 0);
     return {QPoint(1, 1), QPoint(right, rect.height() - 2)};
+}
+
+/// One of the two buttons: what it is, and the outer corner of the spin box that it fills.
+struct StepButton
+{
+    QStyle::SubControl subControl;
+    QAbstractSpinBox::StepEnabledFlag step;
+    QStyle::PrimitiveElement arrow;
+    QStyle::PrimitiveElement sign;
+    Helpers::StraightCornerFlag leftCorner;
+    Helpers::StraightCornerFlag rightCorner;
+};
+
+constexpr StepButton stepButtons[] = {
+    {QStyle::SC_SpinBoxUp, QAbstractSpinBox::StepUpEnabled, QStyle::PE_IndicatorSpinUp,
+     QStyle::PE_IndicatorSpinPlus, Helpers::StraightTopLeft, Helpers::StraightTopRight},
+    {QStyle::SC_SpinBoxDown, QAbstractSpinBox::StepDownEnabled, QStyle::PE_IndicatorSpinDown,
+     QStyle::PE_IndicatorSpinMinus, Helpers::StraightBottomLeft, Helpers::StraightBottomRight},
+};
+
+QPen fieldPen(const PaintRequest &request)
+{
+    const QStyleOption &option = *request.option;
+    const bool enabled = isEnabled(option);
+    if (Inputs::isInError(request.widget)) {
+        return outlinePen(Inputs::errorBrush(enabled));
+    }
+    // The ground is the same with and without the focus, so the outline has to show it.
+    if (has(option, QStyle::State_HasFocus)) {
+        return outlinePen(themeColor(ColorName::MainColor, enabled));
+    }
+    return outlinePen(themeBrush(BrushName::InputBorderBrush, enabled));
+}
+
+void drawField(const PaintRequest &request, bool hasFrame)
+{
+    const QRect &rect = request.option->rect;
+    drawShape(*request.painter, hasFrame ? onHalfPixel(rect) : QRectF(rect),
+              cornerRadius(CornerSize::Base), hasFrame ? fieldPen(request) : QPen(Qt::NoPen),
+              Inputs::fieldBrush(isEnabled(*request.option)));
+}
+
+/// Returns the state of one button, of which the state of the spin box tells only when it is the
+/// active one.
+QStyle::State buttonState(const QStyleOptionSpinBox &option, const StepButton &button)
+{
+    QStyle::State state = option.state & ~QStyle::State_On;
+    if (!option.stepEnabled.testFlag(button.step)) {
+        state &= ~QStyle::State_Enabled;
+    }
+    if (!state.testFlag(QStyle::State_Enabled) ||
+        !option.activeSubControls.testFlag(button.subControl)) {
+        state &= ~(QStyle::State_Sunken | QStyle::State_MouseOver);
+    }
+    return state;
+}
+
+Interaction interactionOf(const BaseStyle &style, const QStyleOption &option)
+{
+    switch (style.getButtonBackgroundState(option)) {
+    case 1:
+        return Interaction::Pressed;
+    case 2:
+        return Interaction::Hover;
+    default:
+        return Interaction::None;
+    }
+}
+
+/// A button at rest is part of the field; it looks like a push button while it is used. The brushes
+/// of inputs that are used would hardly be told from the field.
+QBrush buttonBrush(Interaction interaction, BrushField field, bool enabled)
+{
+    const ComposedWidget widget =
+        interaction == Interaction::None ? ComposedWidget::Input : ComposedWidget::Button;
+    return composedBrush(widget, KindWord(), {CheckState::Unchecked, interaction}, field, enabled);
+}
+
+/// Returns the part of the button inside of the outline.
+QRect faceRect(const QStyleOptionSpinBox &option, const QRect &button)
+{
+    const int inset = option.frame ? 1 : 0;
+    return button.intersected(option.rect.adjusted(inset, inset, -inset, -inset));
+}
+
+/// Fills the face of the button, of which the outer corner follows the outline.
+void drawFace(const QStyleOptionSpinBox &option, const StepButton &button, const QRect &face,
+              const QBrush &brush, QPainter &painter)
+{
+    const auto corner = isRightToLeft(option) ? button.leftCorner : button.rightCorner;
+    const Helpers::StraightCornerFlags allCorners =
+        Helpers::StraightTopLeft | Helpers::StraightTopRight | Helpers::StraightBottomRight |
+        Helpers::StraightBottomLeft;
+    const int radius = cornerRadius(CornerSize::Base) - (option.frame ? 1 : 0);
+    drawShape(painter, face, qMax(0, radius), Qt::NoPen, brush,
+              allCorners & ~Helpers::StraightCornerFlags(corner));
+}
+
+/// Returns where the plus or the minus stands: a square in the middle, so that its bars are equal.
+QRect signRect(const QRect &face)
+{
+    const int extent = qMin(face.width(), face.height()) & ~1;
+    return QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, {extent, extent}, face);
+}
+
+/// Returns where the arrow is drawn, in the middle of the face: the base style draws arrows that
+/// point down one pixel lower.
+QRect arrowRect(const StepButton &button, const QRect &face)
+{
+    return button.arrow == QStyle::PE_IndicatorSpinDown ? face.translated(0, -1) : face;
+}
+
+void drawStepButton(const BaseStyle &style, const PaintRequest &request,
+                    const QStyleOptionSpinBox &option, const StepButton &button)
+{
+    const QRect face =
+        faceRect(option, style.proxy()->subControlRect(QStyle::CC_SpinBox, &option,
+                                                       button.subControl, request.widget));
+    if (face.isEmpty()) {
+        return;
+    }
+    QStyleOption indicator(option);
+    indicator.state = buttonState(option, button);
+    const Interaction interaction = interactionOf(style, indicator);
+    const bool enabled = isEnabled(indicator);
+    if (interaction != Interaction::None) {
+        drawFace(option, button, face, buttonBrush(interaction, BrushField::Background, enabled),
+                 *request.painter);
+    }
+    indicator.palette.setBrush(indicator.palette.currentColorGroup(), QPalette::ButtonText,
+                               buttonBrush(interaction, BrushField::Foreground, enabled));
+    const bool hasSign = option.buttonSymbols == QAbstractSpinBox::PlusMinus;
+    indicator.rect = hasSign ? signRect(face) : arrowRect(button, face);
+    // Arrows have a straight edge on the pixels, and two whose steps are even.
+    request.painter->setRenderHint(QPainter::Antialiasing, false);
+    style.proxy()->drawPrimitive(hasSign ? button.sign : button.arrow, &indicator, request.painter,
+                                 request.widget);
+}
+
+/// The bars of a plus or a minus.
+struct Bars
+{
+    QRect rect;
+    int thickness;
+};
+
+Bars signBars(const BaseStyle &style, const PaintRequest &request)
+{
+    const int inset =
+        style.proxy()->pixelMetric(QStyle::PM_DefaultFrameWidth, request.option, request.widget) +
+        1;
+    const QRect rect = request.option->rect.adjusted(inset, inset, -inset, -inset);
+    const int extent = qMin(rect.width(), rect.height());
+    // Bars of a fifth of the sign are about as bold as text, and stand in the middle only when they
+    // are even or odd as the sign is.
+    int thickness = qMax(1, qRound(extent / 5.0));
+    thickness += (extent - thickness) % 2;
+    return {rect, thickness};
+}
+
+void drawHorizontalBar(const PaintRequest &request, const Bars &bars)
+{
+    const int top = bars.rect.top() + (bars.rect.height() - bars.thickness) / 2;
+    request.painter->fillRect(QRect(bars.rect.left(), top, bars.rect.width(), bars.thickness),
+                              request.option->palette.buttonText());
+}
+
+/// Draws the vertical bar in two parts: brushes of what is disabled may be translucent, and would
+/// show where the bars cross.
+void drawVerticalBar(const PaintRequest &request, const Bars &bars)
+{
+    const QBrush &brush = request.option->palette.buttonText();
+    const int left = bars.rect.left() + (bars.rect.width() - bars.thickness) / 2;
+    const int above = (bars.rect.height() - bars.thickness) / 2;
+    const int below = bars.rect.height() - bars.thickness - above;
+    request.painter->fillRect(QRect(left, bars.rect.top(), bars.thickness, above), brush);
+    request.painter->fillRect(
+        QRect(left, bars.rect.top() + above + bars.thickness, bars.thickness, below), brush);
 }
 
 } // namespace
@@ -59,19 +242,39 @@ QRect subControlRect(const BaseStyle &style, const SubControlRequest &request)
     return baseRect(style, request);
 }
 
-bool drawMinus(const BaseStyle & /*style*/, const PaintRequest & /*request*/)
+bool drawMinus(const BaseStyle &style, const PaintRequest &request)
 {
-    return false;
+    const Bars bars = signBars(style, request);
+    if (!bars.rect.isEmpty()) {
+        drawHorizontalBar(request, bars);
+    }
+    return true;
 }
 
-bool drawPlus(const BaseStyle & /*style*/, const PaintRequest & /*request*/)
+bool drawPlus(const BaseStyle &style, const PaintRequest &request)
 {
-    return false;
+    const Bars bars = signBars(style, request);
+    if (!bars.rect.isEmpty()) {
+        drawHorizontalBar(request, bars);
+        drawVerticalBar(request, bars);
+    }
+    return true;
 }
 
-bool drawSpinBox(const BaseStyle & /*style*/, const PaintRequest & /*request*/)
+bool drawSpinBox(const BaseStyle &style, const PaintRequest &request)
 {
-    return false;
+    const auto *option = qstyleoption_cast<const QStyleOptionSpinBox *>(request.option);
+    if (!option) {
+        return false;
+    }
+    drawField(request, option->frame);
+    for (const StepButton &button : stepButtons) {
+        if (option->subControls.testFlag(button.subControl) &&
+            option->buttonSymbols != QAbstractSpinBox::NoButtons) {
+            drawStepButton(style, request, *option, button);
+        }
+    }
+    return true;
 }
 
 } // namespace TARN::SpinBoxes

@@ -77,6 +77,21 @@ QString PaintTheme::nameAt(const QImage &picture, const QPoint &pixel) const
     return nameOf(picture.pixelColor(pixel));
 }
 
+QString PaintTheme::nameNear(const QImage &picture, const QPoint &pixel) const
+{
+    // Less than half of what any two colours differ by in a channel.
+    constexpr int trace = 8;
+    const QRgb color = picture.pixel(pixel);
+    for (auto name = m_names.cbegin(); name != m_names.cend(); ++name) {
+        if (qAbs(qRed(name.key()) - qRed(color)) <= trace &&
+            qAbs(qGreen(name.key()) - qGreen(color)) <= trace &&
+            qAbs(qBlue(name.key()) - qBlue(color)) <= trace) {
+            return name.value();
+        }
+    }
+    return {};
+}
+
 bool PaintTheme::shows(const QImage &picture, const QString &name) const
 {
     return namesIn(picture).contains(name);

@@ -31,6 +31,9 @@ public:
     QString nameOf(const QColor &color) const;
     /// Returns the name of the variable that painted the pixel of \a picture; empty when none did.
     QString nameAt(const QImage &picture, const QPoint &pixel) const;
+    /// Returns the name as above also where the edge of a round shape, which is not quite straight
+    /// within the pixel, has let through a trace of another colour.
+    QString nameNear(const QImage &picture, const QPoint &pixel) const;
     /// Tells whether a pixel of \a picture was painted by the variable \a name.
     bool shows(const QImage &picture, const QString &name) const;
     /// Returns the names of all variables that painted pixels of \a picture, sorted.
