@@ -7,6 +7,7 @@
 #include <QtGui/QPainter>
 
 #include <cmath>
+#include <optional>
 #include <utility>
 
 namespace TARN {
@@ -29,7 +30,8 @@ struct TileKey
     QRgb pen;
     QRgb fill;
     qreal radius;
-    int penWidth;
+    int rim;       ///< how wide the edges are that are not of the fill's colour
+    bool isFilled; ///< whether the rim is the half-covered edge of a fill, not an outline
     int width;
     int height;
     int straightCorners;
@@ -37,15 +39,17 @@ struct TileKey
 
 bool operator==(const TileKey &a, const TileKey &b)
 {
-    return a.pen == b.pen && a.fill == b.fill && a.radius == b.radius && a.penWidth == b.penWidth &&
-           a.width == b.width && a.height == b.height && a.straightCorners == b.straightCorners;
+    return a.pen == b.pen && a.fill == b.fill && a.radius == b.radius && a.rim == b.rim &&
+           a.isFilled == b.isFilled && a.width == b.width && a.height == b.height &&
+           a.straightCorners == b.straightCorners;
 }
 
 uint qHash(const TileKey &key, uint seed)
 {
     const quint64 colors = quint64(key.pen) << 32U | key.fill;
     const quint64 size = quint64(key.width) << 32U | quint64(key.height);
-    const quint64 form = quint64(key.radius * 64) << 16U | quint64(key.penWidth) << 8U |
+    const quint64 form = quint64(key.radius * 64) << 16U |
+                         quint64(2 * key.rim + int(key.isFilled)) << 8U |
                          quint64(key.straightCorners);
     return ::qHash(colors, seed) ^ ::qHash(size * 31 + form, seed);
 }
@@ -68,26 +72,28 @@ Tile::Tile(const TileKey &key)
     picture.fill(Qt::transparent);
     QPainter painter(&picture);
     painter.setRenderHint(QPainter::Antialiasing);
-    if (key.penWidth > 0) {
-        painter.setPen(QPen(QColor::fromRgba(key.pen), key.penWidth, Qt::SolidLine, Qt::SquareCap,
-                            Qt::MiterJoin));
+    if (key.rim > 0 && !key.isFilled) {
+        painter.setPen(
+            QPen(QColor::fromRgba(key.pen), key.rim, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
     } else {
         painter.setPen(Qt::NoPen);
     }
     painter.setBrush(fill);
-    const qreal inset = key.penWidth / 2.0;
+    const qreal inset = key.rim / 2.0;
     drawOutline(QRectF(picture.rect()).adjusted(inset, inset, -inset, -inset), key.radius,
                 Helpers::StraightCornerFlags(key.straightCorners), painter);
     painter.end();
     edge = picture.pixelColor(key.width / 2, 0);
-    completeStraightCorners(key);
+    if (!key.isFilled) {
+        completeStraightCorners(key);
+    }
 }
 
 /// The rasteriser leaves the outermost pixels of mitred corners faint.
 void Tile::completeStraightCorners(const TileKey &key)
 {
-    const int right = key.width - key.penWidth;
-    const int bottom = key.height - key.penWidth;
+    const int right = key.width - key.rim;
+    const int bottom = key.height - key.rim;
     const std::pair<int, QPoint> corners[] = {{Helpers::StraightTopLeft, {0, 0}},
                                               {Helpers::StraightTopRight, {right, 0}},
                                               {Helpers::StraightBottomRight, {right, bottom}},
@@ -96,7 +102,7 @@ void Tile::completeStraightCorners(const TileKey &key)
     painter.setCompositionMode(QPainter::CompositionMode_Source);
     for (const auto &[flag, position] : corners) {
         if (key.radius <= 0 || (key.straightCorners & flag) != 0) {
-            painter.fillRect(QRect(position, QSize(key.penWidth, key.penWidth)), edge);
+            painter.fillRect(QRect(position, QSize(key.rim, key.rim)), edge);
         }
     }
 }
@@ -156,11 +162,49 @@ bool isWhole(const QRectF &rect)
            isWhole(rect.height());
 }
 
+/// The pixels of the device that a shape covers.
+struct Placement
+{
+    QRect rect;
+    int rim;
+    bool isFilled;
+};
+
+QRect nearestPixels(const QRectF &device)
+{
+    const QPoint topLeft(qRound(device.left()), qRound(device.top()));
+    return {topLeft,
+            QSize(qRound(device.right()) - topLeft.x(), qRound(device.bottom()) - topLeft.y())};
+}
+
+/// Places an outline of one device-independent pixel, which the device has in whole pixels.
+std::optional<Placement> placeOutline(const QRectF &rect, const QTransform &transform)
+{
+    const QRectF outer = rect.adjusted(-0.5, -0.5, 0.5, 0.5);
+    if (!isWhole(outer)) {
+        return std::nullopt;
+    }
+    return Placement{nearestPixels(transform.mapRect(outer)), qMax(1, int(transform.m11())), false};
+}
+
+std::optional<Placement> placeFill(const QRectF &rect, const QTransform &transform)
+{
+    const QRectF device = transform.mapRect(rect);
+    if (isWhole(rect) || isWhole(device)) {
+        return Placement{nearestPixels(device), 0, true};
+    }
+    const QRectF outer = device.adjusted(-0.5, -0.5, 0.5, 0.5);
+    if (!isWhole(outer)) {
+        return std::nullopt;
+    }
+    return Placement{nearestPixels(outer), 1, true};
+}
+
 /// A shape in device pixels, and how it is put together.
 class TiledShape
 {
 public:
-    TiledShape(const QRect &rect, qreal radius, QPainter &painter);
+    TiledShape(const Placement &placement, qreal radius, QPainter &painter);
 
     bool fits() const { return m_radius <= largestRadius && !m_rect.isEmpty(); }
     void draw(Helpers::StraightCornerFlags straightCorners);
@@ -177,38 +221,35 @@ private:
     QPainter &m_painter;
     QRect m_rect;
     qreal m_scale;
-    int m_penWidth;
+    int m_rim;
+    bool m_isFilled;
     qreal m_radius;
     int m_corner;     ///< how far the corners reach
     bool m_stretched; ///< whether the middle of the shape's width is not in the tile
     bool m_tall;      ///< the same for its height
 };
 
-/// Returns how many device pixels wide the outline is.
-int penWidth(const QPainter &painter)
-{
-    return painter.pen().style() == Qt::NoPen ? 0 : qMax(1, int(painter.deviceTransform().m11()));
-}
-
-TiledShape::TiledShape(const QRect &rect, qreal radius, QPainter &painter)
+TiledShape::TiledShape(const Placement &placement, qreal radius, QPainter &painter)
     : m_painter(painter)
-    , m_rect(rect)
+    , m_rect(placement.rect)
     , m_scale(painter.deviceTransform().m11())
-    , m_penWidth(penWidth(painter))
-    , m_radius(qMin(radius * m_scale, (qMin(rect.width(), rect.height()) - m_penWidth) / 2.0))
-    , m_corner(int(std::ceil(m_radius + m_penWidth / 2.0)))
-    , m_stretched(rect.width() > 2 * m_corner)
-    , m_tall(rect.height() > qMax(highestWholeTile, 2 * m_corner))
+    , m_rim(placement.rim)
+    , m_isFilled(placement.isFilled)
+    , m_radius(qMin(radius * m_scale, (qMin(m_rect.width(), m_rect.height()) - m_rim) / 2.0))
+    , m_corner(int(std::ceil(m_radius + m_rim / 2.0)))
+    , m_stretched(m_rect.width() > 2 * m_corner)
+    , m_tall(m_rect.height() > qMax(highestWholeTile, 2 * m_corner))
 {
 }
 
 TileKey TiledShape::key(Helpers::StraightCornerFlags straightCorners) const
 {
     const QBrush &brush = m_painter.brush();
-    return {m_penWidth > 0 ? m_painter.pen().color().rgba() : 0,
+    return {m_rim > 0 && !m_isFilled ? m_painter.pen().color().rgba() : 0,
             brush.style() == Qt::NoBrush ? 0 : brush.color().rgba(),
             m_radius,
-            m_penWidth,
+            m_rim,
+            m_isFilled,
             m_stretched ? 2 * m_corner + 1 : m_rect.width(),
             m_tall ? 2 * m_corner + 1 : m_rect.height(),
             int(straightCorners)};
@@ -221,7 +262,7 @@ void TiledShape::draw(Helpers::StraightCornerFlags straightCorners)
     // All edges lie on whole pixels.
     m_painter.setRenderHint(QPainter::Antialiasing, false);
     drawCorners(tile.picture);
-    if (m_penWidth > 0) {
+    if (m_rim > 0) {
         drawEdges(tile.edge);
     }
     if (tile.fill.alpha() > 0) {
@@ -251,37 +292,37 @@ void TiledShape::drawCorners(const QImage &picture) const
 
 void TiledShape::drawEdges(const QColor &color) const
 {
-    const int bottom = m_rect.height() - m_penWidth;
-    const int right = m_rect.width() - m_penWidth;
+    const int bottom = m_rect.height() - m_rim;
+    const int right = m_rect.width() - m_rim;
     if (m_stretched) {
         const int length = m_rect.width() - 2 * m_corner;
-        fill(m_corner, 0, length, m_penWidth, color);
-        fill(m_corner, bottom, length, m_penWidth, color);
+        fill(m_corner, 0, length, m_rim, color);
+        fill(m_corner, bottom, length, m_rim, color);
     }
     if (m_tall) {
         const int length = m_rect.height() - 2 * m_corner;
-        fill(0, m_corner, m_penWidth, length, color);
-        fill(right, m_corner, m_penWidth, length, color);
+        fill(0, m_corner, m_rim, length, color);
+        fill(right, m_corner, m_rim, length, color);
     }
 }
 
 void TiledShape::fillInside(const QColor &color) const
 {
-    const int innerWidth = m_rect.width() - 2 * m_penWidth;
+    const int innerWidth = m_rect.width() - 2 * m_rim;
     if (!m_tall) {
         if (m_stretched) {
-            fill(m_corner, m_penWidth, m_rect.width() - 2 * m_corner,
-                 m_rect.height() - 2 * m_penWidth, color);
+            fill(m_corner, m_rim, m_rect.width() - 2 * m_corner, m_rect.height() - 2 * m_rim,
+                 color);
         }
         return;
     }
     if (m_stretched) {
         const int length = m_rect.width() - 2 * m_corner;
-        const int rest = m_corner - m_penWidth;
-        fill(m_corner, m_penWidth, length, rest, color);
+        const int rest = m_corner - m_rim;
+        fill(m_corner, m_rim, length, rest, color);
         fill(m_corner, m_rect.height() - m_corner, length, rest, color);
     }
-    fill(m_penWidth, m_corner, innerWidth, m_rect.height() - 2 * m_corner, color);
+    fill(m_rim, m_corner, innerWidth, m_rect.height() - 2 * m_corner, color);
 }
 
 void TiledShape::fill(int left, int top, int width, int height, const QColor &color) const
@@ -305,15 +346,6 @@ QRectF TiledShape::toPainter(const QRectF &device) const
             device.width() / m_scale, device.height() / m_scale};
 }
 
-/// Returns \a rect in whole device pixels.
-QRect onDevice(const QRectF &rect, const QTransform &transform)
-{
-    const QRectF mapped = transform.mapRect(rect);
-    const QPoint topLeft(qRound(mapped.left()), qRound(mapped.top()));
-    return {topLeft,
-            QSize(qRound(mapped.right()) - topLeft.x(), qRound(mapped.bottom()) - topLeft.y())};
-}
-
 } // namespace
 
 bool drawFromTile(const QRectF &rect, qreal radius, Helpers::StraightCornerFlags straightCorners,
@@ -326,14 +358,13 @@ bool drawFromTile(const QRectF &rect, qreal radius, Helpers::StraightCornerFlags
         return false;
     }
     const bool hasPen = painter.pen().style() != Qt::NoPen;
-    const qreal outset = hasPen ? 0.5 : 0;
-    const QRectF outer = rect.adjusted(-outset, -outset, outset, outset);
+    const std::optional<Placement> placement =
+        hasPen ? placeOutline(rect, transform) : placeFill(rect, transform);
     // The inner row of a wide translucent line lies on the fill, the outer one does not.
-    const bool hasTwoTones = penWidth(painter) > 1 && painter.pen().color().alpha() < 255;
-    if (!isWhole(outer) || hasTwoTones) {
+    if (!placement || (placement->rim > 1 && painter.pen().color().alpha() < 255)) {
         return false;
     }
-    TiledShape shape(onDevice(outer, transform), radius, painter);
+    TiledShape shape(*placement, radius, painter);
     if (!shape.fits()) {
         return false;
     }
