@@ -30,6 +30,22 @@ void drawShape(QPainter &painter, const QRectF &rect, int radius, const QPen &pe
                const QBrush &brush,
                Helpers::StraightCornerFlags straightCorners = Helpers::NoStraightCorner);
 
+/// How wide straight lines are.
+enum class Line {
+    Pixel,    ///< one pixel, rounded down to whole pixels of the device
+    Hairline, ///< one pixel of the device, however small it is
+    Exact     ///< one pixel of any scale, so that lines beside each other leave no gap
+};
+
+/// \name Straight lines
+/// They lie along the inside of \a rect on whole pixels of the device. Stroking them takes a
+/// hundred times as long.
+/// \{
+void fillEdge(QPainter &painter, const QRect &rect, Qt::Edge edge, const QBrush &brush,
+              Line line = Line::Pixel);
+void fillFrame(QPainter &painter, const QRect &rect, const QBrush &brush, Line line = Line::Pixel);
+/// \}
+
 /// Returns the theme's icon \a name, a string literal, which is looked up once for the process.
 const QIcon &keptIcon(const char *name);
 

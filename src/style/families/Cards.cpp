@@ -2,13 +2,139 @@
 
 #include "resources/ThemeResources.h"
 #include "style/BaseStyle.h"
+#include "style/Drawing.h"
+#include "style/OptionState.h"
 #include "style/Polishing.h"
 #include "style/Properties.h"
 #include "style/catalogue/Names.h"
 
+#include <QtGui/QPainter>
+#include <QtWidgets/QFrame>
+#include <QtWidgets/QStyleOption>
 #include <QtWidgets/QWidget>
 
+#include <utility>
+
 namespace TARN::Cards {
+
+namespace {
+
+/// How opaque the headers and footers of cards are that can be expanded.
+constexpr qreal expandableOpacity = 0.5;
+/// How far a shape reaches beyond the edge at which it joins another part, so that the line
+/// between them is not drawn twice.
+constexpr qreal joinReach = 1.5;
+
+enum class Part { None, Header, Contents, Footer };
+
+Part partOf(const QWidget *widget)
+{
+    if (isSet(widget, "CardWidgetBase_Header")) {
+        return Part::Header;
+    }
+    if (isSet(widget, "CardWidgetBase_Contents")) {
+        return Part::Contents;
+    }
+    return isSet(widget, "CardWidgetBase_Footer") ? Part::Footer : Part::None;
+}
+
+/// Tells whether \a property is true for a part, which it may have from its card.
+bool isSetForPart(const QWidget &part, const char *property)
+{
+    return isSet(&part, property) || isSet(part.parent(), property);
+}
+
+bool hasBorder(const QWidget &part)
+{
+    QVariant shape = propertyOf(&part, "shape");
+    if (!shape.isValid()) {
+        shape = propertyOf(part.parent(), "shape");
+    }
+    return !shape.isValid() || shape.value<QFrame::Shape>() != QFrame::NoFrame;
+}
+
+/// Where a part joins other ones. A card consists of header, contents and footer from top to
+/// bottom; an inverted one from bottom to top.
+struct Joins
+{
+    bool atTop = false;
+    bool atBottom = false;
+};
+
+Joins joinsOf(const QWidget &widget, Part part)
+{
+    // A minimised card shows no contents.
+    const bool hasContents = !isSet(widget.parent(), "minimized");
+    const bool hasHeader = isSetForPart(widget, "headerVisible");
+    const bool hasFooter = isSetForPart(widget, "footerVisible");
+    Joins joins;
+    joins.atTop = (part == Part::Contents && hasHeader) ||
+                  (part == Part::Footer && (hasContents || hasHeader));
+    joins.atBottom = (part == Part::Contents && hasFooter) ||
+                     (part == Part::Header && (hasContents || hasFooter));
+    if (isSetForPart(widget, "invertedAppearance")) {
+        std::swap(joins.atTop, joins.atBottom);
+    }
+    return joins;
+}
+
+Helpers::StraightCornerFlags straightCorners(const Joins &joins)
+{
+    Helpers::StraightCornerFlags corners;
+    if (joins.atTop) {
+        corners |= Helpers::StraightTopLeft | Helpers::StraightTopRight;
+    }
+    if (joins.atBottom) {
+        corners |= Helpers::StraightBottomLeft | Helpers::StraightBottomRight;
+    }
+    return corners ? corners : Helpers::NoStraightCorner;
+}
+
+QBrush withOpacity(const QBrush &brush, qreal opacity)
+{
+    QBrush result = brush;
+    if (brush.style() == Qt::SolidPattern) {
+        QColor color = brush.color();
+        color.setAlphaF(color.alphaF() * opacity);
+        result.setColor(color);
+    }
+    return result;
+}
+
+QBrush faceOf(const QWidget &widget, Part part, bool enabled)
+{
+    if (part == Part::Contents) {
+        return Qt::NoBrush;
+    }
+    const QBrush &face = themeBrush(BrushName::BackgroundUpLevel1Brush, enabled);
+    return isSetForPart(widget, "expandable") ? withOpacity(face, expandableOpacity) : face;
+}
+
+/// Returns the outline of a part, which is open where the part joins another one.
+QRectF outlineOf(const QRect &rect, const Joins &joins, bool hasBorder)
+{
+    QRectF outline = hasBorder ? onHalfPixel(rect) : QRectF(rect);
+    if (joins.atTop) {
+        outline.setTop(rect.top() - joinReach);
+    }
+    if (joins.atBottom) {
+        outline.setBottom(rect.bottom() + 1 + joinReach);
+    }
+    return outline;
+}
+
+/// Draws the lines between the parts, which are those of the header and of the footer.
+void drawSeparator(QPainter &painter, const QRect &rect, const Joins &joins, const QBrush &brush)
+{
+    if (joins.atTop) {
+        fillEdge(painter, rect, Qt::TopEdge, brush);
+    }
+    if (joins.atBottom) {
+        fillEdge(painter, rect, Qt::BottomEdge, brush);
+    }
+}
+
+} // namespace
 
 void polishPart(BaseStyle & /*style*/, QWidget &widget)
 {
@@ -48,6 +174,36 @@ void polishCard(BaseStyle & /*style*/, QWidget &widget)
     widget.setProperty("BackgroundBrush", themeBrush(BrushName::ForegroundMouseOverBrush, true));
     widget.setProperty("BackgroundBrushDisabled",
                        themeBrush(BrushName::ForegroundMouseOverBrush, false));
+}
+
+bool drawPart(const BaseStyle & /*style*/, const PaintRequest &request)
+{
+    const Part part = partOf(request.widget);
+    if (part == Part::None) {
+        return false;
+    }
+    const QWidget &widget = *request.widget;
+    const QStyleOption &option = *request.option;
+    QPainter &painter = *request.painter;
+    const bool enabled = isEnabled(option);
+    const bool bordered = hasBorder(widget);
+    const Joins joins = joinsOf(widget, part);
+    const int radius =
+        isSetForPart(widget, "CardWidget_NoCornerRadius") ? 0 : cornerRadius(CornerSize::Medium);
+
+    painter.save();
+    painter.setClipRect(option.rect, Qt::IntersectClip);
+    drawShape(painter, outlineOf(option.rect, joins, bordered), radius,
+              bordered ? outlinePen(BaseStyle::getBorderBrush(enabled)) : QPen(Qt::NoPen),
+              faceOf(widget, part, enabled), straightCorners(joins));
+    painter.restore();
+    if (part == Part::Header) {
+        drawSeparator(painter, option.rect, joins,
+                      themeColor(ColorName::BackgroundUpLevel2Color, enabled));
+    } else if (part == Part::Footer && bordered) {
+        drawSeparator(painter, option.rect, joins, BaseStyle::getBorderBrush(enabled));
+    }
+    return true;
 }
 
 } // namespace TARN::Cards

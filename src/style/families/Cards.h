@@ -1,5 +1,7 @@
 #pragma once
 
+#include "style/Requests.h"
+
 class QWidget;
 
 namespace TARN {
@@ -13,5 +15,8 @@ void polishPart(BaseStyle &style, QWidget &widget);
 void polishTitle(BaseStyle &style, QWidget &widget);
 void polishSubtitle(BaseStyle &style, QWidget &widget);
 void polishCard(BaseStyle &style, QWidget &widget);
+
+/// Paints the ground of a header, contents or footer; anything else is none of a card's parts.
+bool drawPart(const BaseStyle &style, const PaintRequest &request);
 
 } // namespace TARN::Cards

@@ -1,10 +1,71 @@
 #include "style/families/GroupBoxes.h"
 
 #include "style/BaseStyle.h"
+#include "style/Drawing.h"
+#include "style/OptionState.h"
 
+#include <QtGui/QPainter>
+#include <QtWidgets/QGroupBox>
 #include <QtWidgets/QStyleOption>
 
 namespace TARN::GroupBoxes {
+
+namespace {
+
+/// How far the frame stays away from the title, which stands on its upper line.
+constexpr int titleMargin = 3;
+
+bool isFlat(const QStyleOption &option)
+{
+    const auto *frame = qstyleoption_cast<const QStyleOptionFrame *>(&option);
+    return frame && frame->features.testFlag(QStyleOptionFrame::Flat);
+}
+
+/// Returns what the title and the check box of a group box occupy; nothing when it has none.
+QRect titleRect(const BaseStyle &style, const PaintRequest &request)
+{
+    const auto *groupBox = qobject_cast<const QGroupBox *>(request.widget);
+    if (!groupBox || (groupBox->title().isEmpty() && !groupBox->isCheckable())) {
+        return {};
+    }
+    QStyleOptionGroupBox option;
+    option.initFrom(groupBox);
+    option.text = groupBox->title();
+    option.textAlignment = groupBox->alignment();
+    option.features.setFlag(QStyleOptionFrame::Flat, groupBox->isFlat());
+    option.subControls = QStyle::SC_GroupBoxLabel;
+    option.subControls.setFlag(QStyle::SC_GroupBoxCheckBox, groupBox->isCheckable());
+    const auto rectOf = [&](QStyle::SubControl subControl) {
+        return style.proxy()->subControlRect(QStyle::CC_GroupBox, &option, subControl, groupBox);
+    };
+    const QRect label = option.text.isEmpty() ? QRect() : rectOf(QStyle::SC_GroupBoxLabel);
+    const QRect checkBox = groupBox->isCheckable() ? rectOf(QStyle::SC_GroupBoxCheckBox) : QRect();
+    return label.united(checkBox).adjusted(-titleMargin, 0, titleMargin, 0);
+}
+
+/// Returns the brush of the line inside of the border, which sets it off from what it surrounds.
+QBrush innerBrush(const QBrush &border)
+{
+    return border.style() == Qt::SolidPattern ? QBrush(border.color().lighter()) : border;
+}
+
+/// A flat group box has no more than a rule below its title.
+void drawRule(QPainter &painter, const QRect &rect, const QBrush &border)
+{
+    fillEdge(painter, rect, Qt::TopEdge, border, Line::Exact);
+    fillEdge(painter, rect.adjusted(0, 1, 0, 0), Qt::TopEdge, innerBrush(border), Line::Exact);
+}
+
+void drawOutline(QPainter &painter, const QRect &rect, const QBrush &border)
+{
+    const QRectF outline = onHalfPixel(rect);
+    const int radius = cornerRadius(CornerSize::Medium);
+    drawShape(painter, outline.adjusted(1, 1, -1, -1), qMax(radius - 1, 0),
+              outlinePen(innerBrush(border)), Qt::NoBrush);
+    drawShape(painter, outline, radius, outlinePen(border), Qt::NoBrush);
+}
+
+} // namespace
 
 QRect subControlRect(const BaseStyle &style, const SubControlRequest &request)
 {
@@ -18,9 +79,22 @@ QRect subControlRect(const BaseStyle &style, const SubControlRequest &request)
     return {rect.x() + 1, rect.y(), rect.width() + 1, rect.height()};
 }
 
-bool drawFrame(const BaseStyle & /*style*/, const PaintRequest & /*request*/)
+bool drawFrame(const BaseStyle &style, const PaintRequest &request)
 {
-    return false;
+    const QStyleOption &option = *request.option;
+    QPainter &painter = *request.painter;
+    const QBrush &border = BaseStyle::getBorderBrush(isEnabled(option));
+    const auto draw = isFlat(option) ? drawRule : drawOutline;
+    const QRect title = titleRect(style, request);
+    if (!title.intersects(option.rect)) {
+        draw(painter, option.rect, border);
+        return true;
+    }
+    painter.save();
+    painter.setClipRegion(QRegion(option.rect) - title, Qt::IntersectClip);
+    draw(painter, option.rect, border);
+    painter.restore();
+    return true;
 }
 
 } // namespace TARN::GroupBoxes
