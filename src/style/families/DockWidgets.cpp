@@ -1,10 +1,128 @@
 #include "style/families/DockWidgets.h"
 
+#include "resources/ProcessCache.h"
+#include "style/BaseStyle.h"
+#include "style/Drawing.h"
+#include "style/OptionState.h"
+#include "style/catalogue/Names.h"
+#include "style/families/ToolBars.h"
+
+#include <QtGui/QPainter>
+#include <QtWidgets/QStyleOption>
+#include <QtWidgets/QWidget>
+
+#include <optional>
+
 namespace TARN::DockWidgets {
 
-bool drawTitle(const BaseStyle & /*style*/, const PaintRequest & /*request*/)
+namespace {
+
+using namespace ToolBars;
+
+/// The grips and what keeps the title away from them.
+constexpr int gripRoom = lightGrip + 6;
+/// Four grips across the title bar reach that far to both sides of its middle.
+constexpr int gripReach = 5;
+
+void drawGrips(const BaseStyle &style, QPainter &painter, const QStyleOptionDockWidget &title,
+               const QRect &textRect)
 {
-    return false;
+    const QRect &rect = title.rect;
+    if (title.verticalTitleBar) {
+        const int middle = rect.left() + rect.width() / 2;
+        style.drawGrips(painter, Qt::Horizontal, qMax(middle - gripReach, rect.left()),
+                        qMin(middle + gripReach, rect.right()), textRect.bottom() - lightGrip + 1,
+                        gripStep, lightGrip, darkGrip);
+        return;
+    }
+    const int middle = rect.top() + rect.height() / 2;
+    const QRect grips =
+        QStyle::visualRect(title.direction, textRect,
+                           QRect(textRect.left(), textRect.top(), lightGrip, textRect.height()));
+    style.drawGrips(painter, Qt::Vertical, qMax(middle - gripReach, rect.top()),
+                    qMin(middle + gripReach, rect.bottom()), grips.left(), gripStep, lightGrip,
+                    darkGrip);
+}
+
+/// Returns \a textRect without the room of the grips at its start; upright titles start at the
+/// bottom.
+QRect withoutGrips(const QStyleOptionDockWidget &title, const QRect &textRect)
+{
+    if (title.verticalTitleBar) {
+        return textRect.adjusted(0, 0, 0, -gripRoom);
+    }
+    return isRightToLeft(title) ? textRect.adjusted(0, 0, -gripRoom, 0)
+                                : textRect.adjusted(gripRoom, 0, 0, 0);
+}
+
+struct TitleFont
+{
+    QFont plain;
+    QFont stressed;
+};
+
+/// Returns the font of titles: that of the dock, stressed. The painter's may be the one that the
+/// dock was made with.
+const QFont &titleFont(const QPainter &painter, const QWidget *widget)
+{
+    // All docks have the same font as a rule, and finding the stressed one takes its time.
+    static ProcessCached<std::optional<TitleFont>> kept([] { return std::optional<TitleFont>(); });
+    std::optional<TitleFont> &font = kept.value();
+    const QFont &plain = widget ? widget->font() : painter.font();
+    if (!font || !font->plain.isCopyOf(plain)) {
+        font = {plain, plain};
+        font->stressed.setWeight(QFont::DemiBold);
+    }
+    return font->stressed;
+}
+
+void drawText(const BaseStyle &style, const PaintRequest &request,
+              const QStyleOptionDockWidget &title, const QRect &textRect)
+{
+    QPainter &painter = *request.painter;
+    painter.save();
+    QRect rect = textRect;
+    Qt::Alignment start = QStyle::visualAlignment(title.direction, Qt::AlignLeft);
+    if (title.verticalTitleBar) {
+        painter.translate(textRect.left(), textRect.bottom() + 1);
+        painter.rotate(-90);
+        rect = {0, 0, textRect.height(), textRect.width()};
+        start = Qt::AlignLeft | Qt::AlignAbsolute;
+    }
+    painter.setFont(titleFont(painter, request.widget));
+    const QString text = painter.fontMetrics().elidedText(title.title, Qt::ElideRight, rect.width(),
+                                                          Qt::TextShowMnemonic);
+    // The letter that chooses the dock in a menu does nothing here.
+    style.proxy()->drawItemText(
+        &painter, rect, int(start | Qt::AlignVCenter) | Qt::TextSingleLine | Qt::TextHideMnemonic,
+        title.palette, isEnabled(title), text, QPalette::WindowText);
+    painter.restore();
+}
+
+} // namespace
+
+bool drawTitle(const BaseStyle &style, const PaintRequest &request)
+{
+    const auto *title = qstyleoption_cast<const QStyleOptionDockWidget *>(request.option);
+    if (!title) {
+        return false;
+    }
+    QPainter &painter = *request.painter;
+    const bool enabled = isEnabled(*title);
+    painter.fillRect(title->rect, themeBrush(BrushName::BackgroundUpLevel1Brush, enabled));
+    fillEdge(painter, title->rect, title->verticalTitleBar ? Qt::RightEdge : Qt::BottomEdge,
+             BaseStyle::getBorderBrush(enabled));
+
+    QRect textRect =
+        style.proxy()->subElementRect(QStyle::SE_DockWidgetTitleBarText, title, request.widget);
+    if (title->movable && !textRect.isEmpty()) {
+        drawGrips(style, painter, *title, textRect);
+        textRect = withoutGrips(*title, textRect);
+    }
+    if (!title->title.isEmpty() && !textRect.isEmpty()) {
+        drawText(style, request, *title, textRect);
+    }
+    return true;
 }
 
 } // namespace TARN::DockWidgets

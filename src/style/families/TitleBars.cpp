@@ -1,10 +1,168 @@
 #include "style/families/TitleBars.h"
 
-namespace TARN::TitleBars {
+#include "resources/ThemeColorHelper.h"
+#include "style/BaseStyle.h"
+#include "style/Drawing.h"
+#include "style/OptionState.h"
+#include "style/catalogue/Names.h"
 
-bool drawTitleBar(const BaseStyle & /*style*/, const PaintRequest & /*request*/)
+#include <QtGui/QPainter>
+#include <QtWidgets/QStyleOption>
+#include <QtWidgets/QWidget>
+
+namespace TARN {
+
+namespace {
+
+constexpr QSize iconSize(16, 16);
+
+/// Returns the picture of \a icon for the screen on which \a widget is.
+QPixmap pictureOf(const QIcon &icon, const QWidget *widget, QIcon::Mode mode = QIcon::Normal)
 {
-    return false;
+    QWindow *window = widget ? widget->window()->windowHandle() : nullptr;
+    return icon.pixmap(window, iconSize, mode, QIcon::Off);
 }
 
-} // namespace TARN::TitleBars
+} // namespace
+
+namespace TitleBars {
+
+namespace {
+
+/// How far the title stays away from its neighbours.
+constexpr int titleMargin = 4;
+/// How much of its colour the title of a window keeps that is not the active one.
+constexpr qreal inactiveOpacity = 0.7;
+
+struct Button
+{
+    QStyle::SubControl subControl;
+    QStyle::StandardPixmap pixmap;
+    /// The base style has a place for some buttons that the window does not want.
+    Qt::WindowType hint;
+};
+
+constexpr Button buttons[] = {
+    {QStyle::SC_TitleBarMinButton, QStyle::SP_TitleBarMinButton, Qt::WindowMinimizeButtonHint},
+    {QStyle::SC_TitleBarMaxButton, QStyle::SP_TitleBarMaxButton, Qt::WindowMaximizeButtonHint},
+    {QStyle::SC_TitleBarCloseButton, QStyle::SP_TitleBarCloseButton, Qt::WindowSystemMenuHint},
+    {QStyle::SC_TitleBarNormalButton, QStyle::SP_TitleBarNormalButton, Qt::Widget},
+    {QStyle::SC_TitleBarContextHelpButton, QStyle::SP_TitleBarContextHelpButton,
+     Qt::WindowContextHelpButtonHint},
+    {QStyle::SC_TitleBarShadeButton, QStyle::SP_TitleBarShadeButton, Qt::WindowShadeButtonHint},
+    {QStyle::SC_TitleBarUnshadeButton, QStyle::SP_TitleBarUnshadeButton, Qt::WindowShadeButtonHint},
+};
+
+bool isActive(const QStyleOptionTitleBar &option)
+{
+    return (option.titleBarState & QStyle::State_Active) != 0;
+}
+
+QColor titleColor(const QStyleOptionTitleBar &option)
+{
+    const QPalette::ColorGroup group = isEnabled(option) ? QPalette::Current : QPalette::Disabled;
+    QColor color = option.palette.color(group, QPalette::WindowText);
+    if (!isActive(option)) {
+        color.setAlphaF(color.alphaF() * inactiveOpacity);
+    }
+    return color;
+}
+
+void drawFace(QPainter &painter, const QStyleOptionTitleBar &option)
+{
+    const bool enabled = isEnabled(option);
+    // The active window comes forward, the others step back.
+    const BrushName face =
+        isActive(option) ? BrushName::BackgroundUpLevel1Brush : BrushName::BackgroundSubLevel1Brush;
+    painter.fillRect(option.rect, themeBrush(face, enabled));
+    fillFrame(painter, option.rect, BaseStyle::getBorderBrush(enabled));
+}
+
+void drawTitle(const BaseStyle &style, const PaintRequest &request,
+               const QStyleOptionTitleBar &option)
+{
+    const QRect rect =
+        style.proxy()
+            ->subControlRect(QStyle::CC_TitleBar, &option, QStyle::SC_TitleBarLabel, request.widget)
+            .adjusted(titleMargin, 0, -titleMargin, 0);
+    if (rect.isEmpty() || option.text.isEmpty()) {
+        return;
+    }
+    QPainter &painter = *request.painter;
+    const QString title =
+        painter.fontMetrics().elidedText(option.text, Qt::ElideRight, rect.width());
+    painter.setPen(titleColor(option));
+    painter.drawText(
+        rect,
+        int(QStyle::visualAlignment(option.direction, Qt::AlignLeft) | Qt::AlignVCenter) |
+            Qt::TextSingleLine,
+        title);
+}
+
+void drawWindowIcon(const BaseStyle &style, const PaintRequest &request,
+                    const QStyleOptionTitleBar &option)
+{
+    const QRect rect = style.proxy()->subControlRect(QStyle::CC_TitleBar, &option,
+                                                     QStyle::SC_TitleBarSysMenu, request.widget);
+    if (!rect.isValid()) {
+        return;
+    }
+    const QIcon icon =
+        option.icon.isNull()
+            ? style.proxy()->standardIcon(QStyle::SP_TitleBarMenuButton, &option, request.widget)
+            : option.icon;
+    const QIcon::Mode mode = isEnabled(option) ? QIcon::Normal : QIcon::Disabled;
+    style.proxy()->drawItemPixmap(request.painter, rect, Qt::AlignCenter,
+                                  pictureOf(icon, request.widget, mode));
+}
+
+} // namespace
+
+bool drawTitleBar(const BaseStyle &style, const PaintRequest &request)
+{
+    const auto *option = qstyleoption_cast<const QStyleOptionTitleBar *>(request.option);
+    if (!option) {
+        return false;
+    }
+    drawFace(*request.painter, *option);
+    if (option->subControls.testFlag(QStyle::SC_TitleBarLabel)) {
+        drawTitle(style, request, *option);
+    }
+    for (const Button &button : buttons) {
+        const bool isWanted = !button.hint || option->titleBarFlags.testFlag(button.hint);
+        if (isWanted && option->subControls.testFlag(button.subControl)) {
+            style.drawTitleBarButton(request.painter, option, button.subControl, button.pixmap,
+                                     request.widget);
+        }
+    }
+    if (option->subControls.testFlag(QStyle::SC_TitleBarSysMenu)) {
+        drawWindowIcon(style, request, *option);
+    }
+    return true;
+}
+
+} // namespace TitleBars
+
+void BaseStyle::drawTitleBarButton(QPainter *painter, const QStyleOptionTitleBar *option,
+                                   SubControl subControl, StandardPixmap standardPixmap,
+                                   const QWidget *widget) const
+{
+    const QRect rect = proxy()->subControlRect(CC_TitleBar, option, subControl, widget);
+    if (!rect.isValid()) {
+        return;
+    }
+    QStyleOptionButton button;
+    button.palette = option->palette;
+    button.rect = rect;
+    // Buttons that are not in use have no state at all and look disabled.
+    if (option->activeSubControls.testFlag(subControl)) {
+        button.state = option->state & (State_Active | State_HasFocus | State_Enabled |
+                                        State_Sunken | State_MouseOver);
+    }
+    proxy()->drawPrimitive(PE_PanelButtonBevel, &button, painter, widget);
+    const QIcon icon = ThemeColorHelper::getModifiedIconWithForegroundBrush(
+        standardIcon(standardPixmap, option, widget), buttonBrushes(&button, widget).foreground);
+    proxy()->drawItemPixmap(painter, rect, Qt::AlignCenter, pictureOf(icon, widget));
+}
+
+} // namespace TARN

@@ -1,7 +1,12 @@
 #include "style/families/Windows.h"
 
 #include "style/BaseStyle.h"
+#include "style/Drawing.h"
+#include "style/OptionState.h"
+#include "style/Properties.h"
+#include "style/families/Cards.h"
 
+#include <QtGui/QPainter>
 #include <QtWidgets/QDockWidget>
 #include <QtWidgets/QScrollArea>
 
@@ -42,14 +47,26 @@ void polishWindow(BaseStyle &style, QWidget &widget)
     }
 }
 
-bool drawFrame(const BaseStyle & /*style*/, const PaintRequest & /*request*/)
+bool drawFrame(const BaseStyle & /*style*/, const PaintRequest &request)
 {
-    return false;
+    const QStyleOption &option = *request.option;
+    fillFrame(*request.painter, option.rect, BaseStyle::getBorderBrush(isEnabled(option)));
+    return true;
 }
 
-bool drawBackground(const BaseStyle & /*style*/, const PaintRequest & /*request*/)
+bool drawBackground(const BaseStyle &style, const PaintRequest &request)
 {
-    return false;
+    const QStyleOption &option = *request.option;
+    // A main window inside of another one is one of its contents and lies on their ground.
+    if (isA(request.widget, "QMainWindow") && request.widget->isWindow()) {
+        request.painter->fillRect(option.rect, option.palette.dark());
+        return true;
+    }
+    if (isA(request.widget, "QDockWidget")) {
+        request.painter->fillRect(option.rect, option.palette.light());
+        return true;
+    }
+    return Cards::drawPart(style, request);
 }
 
 } // namespace TARN::Windows
