@@ -1,15 +1,47 @@
 #include "style/families/TipsAndStatus.h"
 
+#include "style/BaseStyle.h"
+#include "style/Drawing.h"
+#include "style/OptionState.h"
+#include "style/catalogue/Names.h"
+
+#include <QtGui/QPainter>
+#include <QtWidgets/QStyleOption>
+#include <QtWidgets/QToolTip>
+
 namespace TARN::TipsAndStatus {
 
-bool drawTip(const BaseStyle & /*style*/, const PaintRequest & /*request*/)
+namespace {
+
+/// Returns the brush of the border of the tip that is shown. Its text tells whether it is about an
+/// error.
+QBrush tipBorder(const QStyleOption &option)
 {
-    return false;
+    const bool isAboutError = QToolTip::text().contains(QLatin1String("errorTooltip"));
+    // Tips are never disabled.
+    return isAboutError ? QBrush(themeColor(ColorName::StatusDangerColor, true))
+                        : option.palette.shadow();
 }
 
-bool drawStatusBar(const BaseStyle & /*style*/, const PaintRequest & /*request*/)
+} // namespace
+
+bool drawTip(const BaseStyle & /*style*/, const PaintRequest &request)
 {
-    return false;
+    const QStyleOption &option = *request.option;
+    QPainter &painter = *request.painter;
+    painter.fillRect(option.rect, option.palette.toolTipBase());
+    fillFrame(painter, option.rect, tipBorder(option), Line::Hairline);
+    return true;
+}
+
+bool drawStatusBar(const BaseStyle & /*style*/, const PaintRequest &request)
+{
+    const QStyleOption &option = *request.option;
+    const bool enabled = isEnabled(option);
+    request.painter->fillRect(option.rect,
+                              themeBrush(BrushName::BackgroundSubLevel1Brush, enabled));
+    fillEdge(*request.painter, option.rect, Qt::TopEdge, BaseStyle::getBorderBrush(enabled));
+    return true;
 }
 
 } // namespace TARN::TipsAndStatus

@@ -1,6 +1,13 @@
 #include "style/families/ToolBoxes.h"
 
+#include "style/BaseStyle.h"
+#include "style/Drawing.h"
+#include "style/OptionState.h"
+#include "style/catalogue/Names.h"
+
+#include <QtGui/QPainter>
 #include <QtWidgets/QLayout>
+#include <QtWidgets/QStyleOption>
 #include <QtWidgets/QWidget>
 
 namespace TARN::ToolBoxes {
@@ -8,6 +15,14 @@ namespace TARN::ToolBoxes {
 namespace {
 
 constexpr int leastButtonHeight = 42;
+
+/// Tells whether nothing above the tab has a line at its bottom.
+bool hasTopLine(const QStyleOptionToolBox &tab)
+{
+    return tab.position == QStyleOptionToolBox::Beginning ||
+           tab.position == QStyleOptionToolBox::OnlyOneTab ||
+           tab.selectedPosition == QStyleOptionToolBox::PreviousIsSelected;
+}
 
 } // namespace
 
@@ -24,9 +39,25 @@ void polishToolBox(BaseStyle & /*style*/, QWidget &widget)
     }
 }
 
-bool drawTabShape(const BaseStyle & /*style*/, const PaintRequest & /*request*/)
+bool drawTabShape(const BaseStyle & /*style*/, const PaintRequest &request)
 {
-    return false;
+    const auto *tab = qstyleoption_cast<const QStyleOptionToolBox *>(request.option);
+    if (!tab) {
+        return false;
+    }
+    QPainter &painter = *request.painter;
+    const bool enabled = isEnabled(*tab);
+    const QBrush &border = BaseStyle::getBorderBrush(enabled);
+    painter.fillRect(tab->rect, themeBrush(BrushName::BackgroundUpLevel1Brush, enabled));
+    fillEdge(painter, tab->rect.adjusted(0, 0, 0, -1), Qt::BottomEdge,
+             themeColor(ColorName::BackgroundUpLevel2Color, enabled));
+    fillEdge(painter, tab->rect, Qt::LeftEdge, border);
+    fillEdge(painter, tab->rect, Qt::RightEdge, border);
+    fillEdge(painter, tab->rect, Qt::BottomEdge, border);
+    if (hasTopLine(*tab)) {
+        fillEdge(painter, tab->rect, Qt::TopEdge, border);
+    }
+    return true;
 }
 
 } // namespace TARN::ToolBoxes
