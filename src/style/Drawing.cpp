@@ -5,7 +5,9 @@
 #include "resources/ThemeResources.h"
 
 #include <QtGui/QPainter>
+#include <QtGui/QPixmap>
 #include <QtWidgets/QStyleOption>
+#include <QtWidgets/QWidget>
 
 #include <algorithm>
 #include <array>
@@ -94,6 +96,53 @@ QRectF edgeOnPixels(const QPainter &painter, const QRect &rect, Qt::Edge edge, L
             (onPixels.top() - transform.dy()) / transform.m22(), onPixels.width() / transform.m11(),
             onPixels.height() / transform.m22()};
 }
+
+/// The palettes that were last given a brush.
+class ChangedPalettes
+{
+public:
+    QPalette palette(const QPalette &source, QPalette::ColorRole role, const QBrush &brush)
+    {
+        Entry &entry = m_entries.at(slotOf(source, role, brush));
+        if (!entry.isFor(source, role, brush)) {
+            QPalette changed = source;
+            changed.setBrush(source.currentColorGroup(), role, brush);
+            entry = {source, role, brush, changed};
+        }
+        return entry.changed;
+    }
+
+private:
+    struct Entry
+    {
+        QPalette source;
+        QPalette::ColorRole role = QPalette::NoRole;
+        QBrush brush;
+        QPalette changed;
+
+        bool isFor(const QPalette &otherSource, QPalette::ColorRole otherRole,
+                   const QBrush &otherBrush) const
+        {
+            return role == otherRole && brush == otherBrush && source.isCopyOf(otherSource) &&
+                   source.currentColorGroup() == otherSource.currentColorGroup() &&
+                   source.resolve() == otherSource.resolve();
+        }
+    };
+
+    static constexpr std::size_t entryCount = 127;
+
+    static std::size_t slotOf(const QPalette &source, QPalette::ColorRole role, const QBrush &brush)
+    {
+        auto key = std::size_t(source.cacheKey());
+        for (const unsigned int part :
+             {unsigned(source.currentColorGroup()), unsigned(role), brush.color().rgba()}) {
+            key = key * 31 + part;
+        }
+        return key % entryCount;
+    }
+
+    std::array<Entry, entryCount> m_entries;
+};
 
 /// Returns how far \a point is moved onto a whole pixel of the device, in the painter's units.
 QPointF towardsPixel(const QPainter &painter, const QPointF &point)
@@ -186,15 +235,45 @@ void drawTintedIcon(QPainter &painter, const QRect &rect, const QIcon &icon, con
     drawIcon(painter, rect, ThemeColorHelper::getModifiedIconWithForegroundBrush(icon, brush));
 }
 
+QPixmap iconPixmap(const QIcon &icon, const QSize &size, QIcon::Mode mode, QIcon::State state,
+                   const QWidget *widget)
+{
+    return icon.pixmap(widget ? widget->window()->windowHandle() : nullptr, size, mode, state);
+}
+
+QSize sizeOf(const QPixmap &pixmap)
+{
+    return pixmap.size() / pixmap.devicePixelRatio();
+}
+
+void drawItemPixmap(const QStyle &style, QPainter &painter, const QRect &rect,
+                    const QPixmap &pixmap)
+{
+    const QRect target =
+        QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, sizeOf(pixmap), rect);
+    const QPointF offset = towardsPixel(painter, target.topLeft());
+    painter.translate(offset);
+    style.proxy()->drawItemPixmap(&painter, target, Qt::AlignCenter, pixmap);
+    painter.translate(-offset);
+}
+
+QPalette paletteWith(const QPalette &palette, QPalette::ColorRole role, const QBrush &brush)
+{
+    if (brush.style() == Qt::NoBrush) {
+        return palette;
+    }
+    static ChangedPalettes palettes;
+    return palettes.palette(palette, role, brush);
+}
+
 template <typename ButtonOption>
 void useForeground(ButtonOption &option, const QBrush &brush)
 {
     if (brush.style() == Qt::NoBrush) {
         return;
     }
-    const QPalette::ColorGroup group = option.palette.currentColorGroup();
-    option.palette.setBrush(group, QPalette::ButtonText, brush);
-    option.palette.setBrush(group, QPalette::WindowText, brush);
+    option.palette = paletteWith(option.palette, QPalette::ButtonText, brush);
+    option.palette = paletteWith(option.palette, QPalette::WindowText, brush);
     if (!option.icon.isNull()) {
         option.icon = ThemeColorHelper::getModifiedIconWithForegroundBrush(option.icon, brush);
     }

@@ -5,9 +5,13 @@
 #include <QtCore/QRectF>
 #include <QtGui/QBrush>
 #include <QtGui/QIcon>
+#include <QtGui/QPalette>
 #include <QtGui/QPen>
 
 class QPainter;
+class QPixmap;
+class QStyle;
+class QWidget;
 
 /// What the families draw with.
 namespace TARN {
@@ -55,6 +59,21 @@ void drawIcon(QPainter &painter, const QRect &rect, const QIcon &icon,
 
 /// Draws \a icon as above, its foreground painted with \a brush.
 void drawTintedIcon(QPainter &painter, const QRect &rect, const QIcon &icon, const QBrush &brush);
+
+/// Returns the picture of \a icon at \a size for the screen of \a widget, which may be null.
+QPixmap iconPixmap(const QIcon &icon, const QSize &size, QIcon::Mode mode, QIcon::State state,
+                   const QWidget *widget);
+
+/// Returns the size of \a pixmap in device-independent pixels.
+QSize sizeOf(const QPixmap &pixmap);
+
+/// Has the proxy of \a style draw \a pixmap in the middle of \a rect, on whole device pixels.
+void drawItemPixmap(const QStyle &style, QPainter &painter, const QRect &rect,
+                    const QPixmap &pixmap);
+
+/// Returns \a palette with \a brush, unless it is none, as the \a role of its current colour group.
+/// What was asked for lately is kept: setting a brush copies a palette.
+QPalette paletteWith(const QPalette &palette, QPalette::ColorRole role, const QBrush &brush);
 
 /// Sets \a brush, unless it is none, as the text of the button that \a option describes and tints
 /// the option's icon with it. The option is a QStyleOptionButton or a QStyleOptionToolButton.

@@ -1,25 +1,89 @@
 #include "style/families/Arrows.h"
 
+#include "style/BaseStyle.h"
+#include "style/Drawing.h"
+#include "style/OptionState.h"
+#include "style/Properties.h"
+#include "style/families/Buttons.h"
+
+#include <QtWidgets/QDateTimeEdit>
+#include <QtWidgets/QScrollBar>
+#include <QtWidgets/QStyleOption>
+
 namespace TARN::Arrows {
 
-bool drawDown(const BaseStyle & /*style*/, const PaintRequest & /*request*/)
+namespace {
+
+/// Tells whether an arrow belongs to an entry of a view or a menu, which is no button.
+bool isOfItem(const QStyleOption &option)
 {
-    return false;
+    return option.type == QStyleOption::SO_ViewItem || option.type == QStyleOption::SO_MenuItem;
 }
 
-bool drawLeft(const BaseStyle & /*style*/, const PaintRequest & /*request*/)
+/// Returns the brush of the text that the arrow stands beside.
+QBrush arrowBrush(const PaintRequest &request)
 {
-    return false;
+    const QStyleOption &option = *request.option;
+    if (isOfItem(option)) {
+        return option.palette.windowText();
+    }
+    return Buttons::labelBrush(BaseStyle::buttonBrushes(&option, request.widget).foreground,
+                               isEnabled(option));
 }
 
-bool drawRight(const BaseStyle & /*style*/, const PaintRequest & /*request*/)
+/// Tells whether a widget edits a date that a calendar can be opened for.
+bool opensCalendar(const QWidget *widget)
 {
-    return false;
+    const auto *edit = qobject_cast<const QDateTimeEdit *>(widget);
+    return edit && !qobject_cast<const QTimeEdit *>(widget) && edit->calendarPopup();
 }
 
-bool drawUp(const BaseStyle & /*style*/, const PaintRequest & /*request*/)
+/// Returns how large an arrow is that has enough room: that of a scroll bar is as large as its
+/// button, all others are as large as icons.
+QStyle::PixelMetric arrowMetric(const QWidget *widget)
 {
-    return false;
+    return qobject_cast<const QScrollBar *>(widget) ? QStyle::PM_ScrollBarExtent
+                                                    : QStyle::PM_SmallIconSize;
+}
+
+bool drawArrow(const BaseStyle &style, const PaintRequest &request, const char *icon)
+{
+    if (isSet(request.widget, "no menu arrow")) {
+        return true;
+    }
+    const QRect &room = request.option->rect;
+    const int wanted =
+        style.proxy()->pixelMetric(arrowMetric(request.widget), request.option, request.widget);
+    const int extent = qMin(wanted, qMin(room.width(), room.height()));
+    if (extent > 0) {
+        const QRect arrow =
+            QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, QSize(extent, extent), room);
+        drawTintedIcon(*request.painter, arrow, keptIcon(icon), arrowBrush(request));
+    }
+    return true;
+}
+
+} // namespace
+
+bool drawDown(const BaseStyle &style, const PaintRequest &request)
+{
+    return drawArrow(style, request,
+                     opensCalendar(request.widget) ? "view.calendar" : "chevron.down");
+}
+
+bool drawLeft(const BaseStyle &style, const PaintRequest &request)
+{
+    return drawArrow(style, request, "chevron.left");
+}
+
+bool drawRight(const BaseStyle &style, const PaintRequest &request)
+{
+    return drawArrow(style, request, "chevron.right");
+}
+
+bool drawUp(const BaseStyle &style, const PaintRequest &request)
+{
+    return drawArrow(style, request, "chevron.up");
 }
 
 } // namespace TARN::Arrows

@@ -3,6 +3,8 @@
 #include "style/Requests.h"
 
 #include <QtCore/QRect>
+#include <QtGui/QBrush>
+#include <QtGui/QPalette>
 
 class QWidget;
 
@@ -10,7 +12,7 @@ namespace TARN {
 class BaseStyle;
 }
 
-/// Push buttons, tool buttons and command links.
+/// Push buttons and command links, and the faces of everything that is a button.
 namespace TARN::Buttons {
 
 QSize pushButtonSize(const BaseStyle &style, const ContentsRequest &request);
@@ -21,6 +23,26 @@ QSize toolButtonSize(const BaseStyle &style, const ContentsRequest &request);
 int pushButtonHeight(const BaseStyle &style, const ContentsRequest &request);
 
 void polishCommandLink(BaseStyle &style, QWidget &widget);
+
+/// Returns what the text and the icon of a button are painted with: its \a foreground, or the
+/// theme's text colour where none was chosen.
+QBrush labelBrush(const QBrush &foreground, bool enabled);
+
+/// Returns how texts with mnemonics are to be drawn.
+int mnemonicFlags(const BaseStyle &style, const PaintRequest &request);
+
+/// Draws the focus inside of \a rect, unless the button has none; \a palette is the one that its
+/// label is drawn with.
+void drawFocus(const BaseStyle &style, const PaintRequest &request, const QPalette &palette,
+               const QRect &rect);
+
+/// \name The column at the end of a button's contents that shows that it opens a menu
+/// \{
+int menuColumnWidth(const BaseStyle &style, const PaintRequest &request);
+QRect menuColumn(const QRect &contents, int width, Qt::LayoutDirection direction);
+/// Returns what the column leaves of \a contents.
+QRect besideMenuColumn(const QRect &contents, int width, Qt::LayoutDirection direction);
+/// \}
 
 bool drawDefaultFrame(const BaseStyle &style, const PaintRequest &request);
 bool drawPanel(const BaseStyle &style, const PaintRequest &request);

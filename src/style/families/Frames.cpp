@@ -130,11 +130,34 @@ ShadedFrame shadedFrame(QFrame::Shape shape)
     }
 }
 
+/// Returns the dotted pen of focus rectangles. The last one is kept: there is one focus, and a pen
+/// is allocated.
+const QPen &focusPen(const QBrush &brush)
+{
+    static QPen pen(Qt::NoPen);
+    if (pen.style() == Qt::NoPen || pen.brush() != brush) {
+        pen = QPen(brush, 0);
+        pen.setDashPattern({2, 2});
+    }
+    return pen;
+}
+
 } // namespace
 
-bool drawFocusRect(const BaseStyle & /*style*/, const PaintRequest & /*request*/)
+bool drawFocusRect(const BaseStyle & /*style*/, const PaintRequest &request)
 {
-    return false;
+    if (!qstyleoption_cast<const QStyleOptionFocusRect *>(request.option)) {
+        return false;
+    }
+    const bool byKeyboard = has(*request.option, QStyle::State_KeyboardFocusChange);
+    if (!byKeyboard || isSet(request.widget, "hideFocusRect")) {
+        return true;
+    }
+    request.painter->setRenderHint(QPainter::Antialiasing);
+    request.painter->setPen(focusPen(request.option->palette.text()));
+    request.painter->setBrush(Qt::NoBrush);
+    request.painter->drawRoundedRect(onHalfPixel(request.option->rect), 1.0, 1.0);
+    return true;
 }
 
 bool drawRubberBand(const BaseStyle & /*style*/, const PaintRequest &request)
