@@ -21,14 +21,16 @@ ButtonGroupWidget::ButtonGroupWidget(const QStringList &texts, Kind kind)
     setProperty("ButtonGroupWidget_Container", true);
     setProperty("ButtonGroupWidget_Workflow", isWorkflow);
     setProperty("ButtonGroupWidget_Exclusive", true);
+    setProperty("ButtonGroupWidget_VisibleCount", texts.size());
+    setProperty("orientation", int(Qt::Horizontal));
     auto *layout = new QHBoxLayout(this);
-    layout->setContentsMargins(4, 4, 4, 4);
-    layout->setSpacing(isWorkflow ? LinkLength : 2);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(isWorkflow ? LinkLength : 0);
     auto *group = new QButtonGroup(this);
     for (const QString &text : texts) {
         auto *button = new QPushButton(text);
+        button->setProperty("Button_VisibleIndex", group->buttons().size());
         button->setCheckable(true);
-        button->setFlat(!isWorkflow);
         group->addButton(button);
         layout->addWidget(button);
     }
@@ -65,8 +67,12 @@ void ButtonGroupWidget::paintLinks(QPainter *painter) const
     painter->setPen(QPen(brush("WorkflowLinkBrush"), 2));
     const QList<QPushButton *> buttons = findChildren<QPushButton *>();
     for (int i = 1; i < buttons.size(); ++i) {
-        painter->drawLine(buttons.at(i - 1)->geometry().center(),
-                          buttons.at(i)->geometry().center());
+        // Right to left, the former button stands on the other side.
+        const bool isAfter = buttons.at(i)->x() > buttons.at(i - 1)->x();
+        const QRect left = buttons.at(isAfter ? i - 1 : i)->geometry();
+        const QRect right = buttons.at(isAfter ? i : i - 1)->geometry();
+        painter->drawLine(left.right() + 1, left.center().y() + 1, right.left(),
+                          right.center().y() + 1);
     }
 }
 

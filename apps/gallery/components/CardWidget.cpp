@@ -17,11 +17,41 @@ constexpr qreal CornerRadius = 4;
 /// The brush is made for lines and text; as a ground it is a tint.
 constexpr qreal GroundOpacity = 0.12;
 
-QLabel *markedLabel(const QString &text, const char *mark, QWidget *parent)
+/// A part of a card, which adjoins the others. It knows whether the card is minimized: its title
+/// asks.
+class CardPart : public QWidget
 {
-    auto *label = new QLabel(text, parent);
-    label->setProperty(mark, true);
-    return label;
+    Q_OBJECT
+    // Hides the window state of that name, which every widget has.
+    Q_PROPERTY(bool minimized MEMBER m_minimized)
+
+public:
+    CardPart(const char *mark, bool minimized)
+        : m_minimized(minimized)
+        , m_layout(new QVBoxLayout(this))
+    {
+        setProperty(mark, true);
+    }
+
+    void add(QWidget *widget) { m_layout->addWidget(widget); }
+    void addLabel(const QString &text, const char *mark)
+    {
+        auto *label = new QLabel(text, this);
+        label->setProperty(mark, true);
+        add(label);
+    }
+
+private:
+    bool m_minimized;
+    QVBoxLayout *m_layout;
+};
+
+CardPart *partWith(const char *mark, QWidget *widget, bool minimized)
+{
+    auto *part = new CardPart(mark, minimized);
+    part->add(widget);
+    part->setVisible(!minimized);
+    return part;
 }
 
 } // namespace
@@ -30,21 +60,20 @@ CardWidget::CardWidget(const QString &title, const QString &subtitle, QWidget *c
                        QWidget *footer, bool minimized)
     : m_minimized(minimized)
 {
+    setProperty("headerVisible", true);
+    setProperty("footerVisible", footer && !minimized);
     auto *layout = new QVBoxLayout(this);
-    layout->setSpacing(12);
-    // The title asks its parent whether the card is minimized.
-    auto *titleLabel = markedLabel(title, "CardWidgetBase_Title", this);
-    layout->addWidget(titleLabel);
-    layout->addWidget(markedLabel(subtitle, "CardWidgetBase_Subtitle", this));
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    auto *header = new CardPart("CardWidgetBase_Header", minimized);
+    header->addLabel(title, "CardWidgetBase_Title");
+    header->addLabel(subtitle, "CardWidgetBase_Subtitle");
+    layout->addWidget(header);
     if (contents) {
-        contents->setProperty("CardWidgetBase_Contents", true);
-        contents->setVisible(!minimized);
-        layout->addWidget(contents);
+        layout->addWidget(partWith("CardWidgetBase_Contents", contents, minimized), 1);
     }
     if (footer) {
-        footer->setProperty("CardWidgetBase_Footer", true);
-        footer->setVisible(!minimized);
-        layout->addWidget(footer);
+        layout->addWidget(partWith("CardWidgetBase_Footer", footer, minimized));
     }
     layout->addStretch();
 }
@@ -57,7 +86,10 @@ void CardWidget::paintEvent(QPaintEvent * /*event*/)
     painter.setOpacity(GroundOpacity);
     painter.setPen(Qt::NoPen);
     painter.setBrush(this->property(property).value<QBrush>());
-    painter.drawRoundedRect(rect(), CornerRadius, CornerRadius);
+    // A minimized card may be given more room than its header takes.
+    painter.drawRoundedRect(childrenRect(), CornerRadius, CornerRadius);
 }
 
 } // namespace TARN::Components
+
+#include "CardWidget.moc"
