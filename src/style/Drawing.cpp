@@ -3,6 +3,7 @@
 #include "resources/ProcessCache.h"
 #include "resources/ThemeColorHelper.h"
 #include "resources/ThemeResources.h"
+#include "style/BaseStyle.h"
 
 #include <QtGui/QPainter>
 #include <QtGui/QPixmap>
@@ -264,6 +265,16 @@ QPalette paletteWith(const QPalette &palette, QPalette::ColorRole role, const QB
     }
     static ChangedPalettes palettes;
     return palettes.palette(palette, role, brush);
+}
+
+void drawFocusRect(const BaseStyle &style, const PaintRequest &request, const QRect &rect)
+{
+    QStyleOptionFocusRect option;
+    option.QStyleOption::operator=(*request.option);
+    option.rect = rect;
+    option.backgroundColor = option.palette.color(QPalette::Window);
+    style.proxy()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, request.painter,
+                                 request.widget);
 }
 
 template <typename ButtonOption>

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common_utils/Helpers.h"
+#include "style/Requests.h"
 
 #include <QtCore/QRectF>
 #include <QtGui/QBrush>
@@ -15,6 +16,8 @@ class QWidget;
 
 /// What the families draw with.
 namespace TARN {
+
+class BaseStyle;
 
 /// The theme's corner radii.
 enum class CornerSize { Small, Base, Medium, Large };
@@ -74,6 +77,10 @@ void drawItemPixmap(const QStyle &style, QPainter &painter, const QRect &rect,
 /// Returns \a palette with \a brush, unless it is none, as the \a role of its current colour group.
 /// What was asked for lately is kept: setting a brush copies a palette.
 QPalette paletteWith(const QPalette &palette, QPalette::ColorRole role, const QBrush &brush);
+
+/// Has the proxy of \a style mark \a rect as focused; whether that is seen is the primitive's
+/// matter.
+void drawFocusRect(const BaseStyle &style, const PaintRequest &request, const QRect &rect);
 
 /// Sets \a brush, unless it is none, as the text of the button that \a option describes and tints
 /// the option's icon with it. The option is a QStyleOptionButton or a QStyleOptionToolButton.

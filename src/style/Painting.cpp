@@ -15,7 +15,7 @@
 #include "style/families/Sliders.h"
 #include "style/families/SpinBoxes.h"
 #include "style/families/Splitters.h"
-#include "style/families/Tabs.h"
+#include "style/families/TabPainting.h"
 #include "style/families/TipsAndStatus.h"
 #include "style/families/TitleBars.h"
 #include "style/families/ToolBars.h"

@@ -1,9 +1,13 @@
 #include "style/families/ScrollBars.h"
 
 #include "style/BaseStyle.h"
+#include "style/Drawing.h"
 #include "style/Geometry.h"
+#include "style/OptionState.h"
 #include "style/Properties.h"
+#include "style/catalogue/Names.h"
 
+#include <QtGui/QPainter>
 #include <QtWidgets/QAbstractScrollArea>
 #include <QtWidgets/QStyleOption>
 
@@ -12,6 +16,25 @@ namespace TARN::ScrollBars {
 namespace {
 
 constexpr int minimizedThickness = 5;
+
+/// How much of its thickness the handle keeps free at either side.
+constexpr qreal handleMargin = 0.2;
+
+/// The face of a button keeps this distance from the edges of the scroll bar.
+constexpr int faceMargin = 2;
+
+struct Part
+{
+    QStyle::SubControl subControl;
+    QStyle::ControlElement element;
+};
+
+/// The pages are bare groove.
+constexpr Part parts[] = {
+    {QStyle::SC_ScrollBarSubLine, QStyle::CE_ScrollBarSubLine},
+    {QStyle::SC_ScrollBarAddLine, QStyle::CE_ScrollBarAddLine},
+    {QStyle::SC_ScrollBarSlider, QStyle::CE_ScrollBarSlider},
+};
 
 const QStyleOptionSlider *minimizedOption(const QStyleOption *option, const QWidget *widget)
 {
@@ -43,6 +66,75 @@ QRect minimizedSliderRect(const BaseStyle &style, const SubControlRequest &reque
     const QRect rect = baseRect(style, request);
     return orientation == Qt::Horizontal ? rect.adjusted(-growth, 0, growth, frameWidth)
                                          : rect.adjusted(frameWidth, -growth, 0, growth);
+}
+
+/// A thin line that lies on the contents of its scroll area is a handle without a groove. One that
+/// has promised to paint all of its pixels has to keep that.
+bool hasGroove(const QWidget *widget)
+{
+    return !isSet(widget, "minimized") || widget->testAttribute(Qt::WA_OpaquePaintEvent) ||
+           !qobject_cast<const QAbstractScrollArea *>(widget->parentWidget());
+}
+
+void fillGroove(const BaseStyle &style, const PaintRequest &request)
+{
+    const QStyleOption &option = *request.option;
+    // The painter would fill what an inverted rectangle encloses.
+    if (option.rect.isValid()) {
+        request.painter->fillRect(option.rect, style.grooveBackgroundBrush(isEnabled(option)));
+    }
+}
+
+QStyle::State stateOf(const QStyleOptionSlider &scrollBar, QStyle::SubControl subControl)
+{
+    return scrollBar.activeSubControls.testFlag(subControl)
+               ? scrollBar.state
+               : scrollBar.state & ~(QStyle::State_Sunken | QStyle::State_MouseOver);
+}
+
+QBrush handleBrush(const QStyleOptionSlider &option, const QWidget *widget)
+{
+    // What is dragged is under the mouse, wherever the mouse has got to.
+    const bool isUnderMouse =
+        isHovered(option) || (isEnabled(option) && has(option, QStyle::State_Sunken));
+    if (isUnderMouse) {
+        return themeColor(ColorName::MainColor, true);
+    }
+    return themeBrush(isSet(widget, "minimized") ? BrushName::PrioritySecondarySubLevel1Brush
+                                                 : BrushName::ForegroundDisabledBrush,
+                      isEnabled(option));
+}
+
+bool isHorizontal(const QStyleOption &option)
+{
+    const auto *scrollBar = qstyleoption_cast<const QStyleOptionSlider *>(&option);
+    return scrollBar ? scrollBar->orientation == Qt::Horizontal
+                     : has(option, QStyle::State_Horizontal);
+}
+
+QStyle::PrimitiveElement lineArrow(const QStyleOption &option, bool isTowardsEnd)
+{
+    if (!isHorizontal(option)) {
+        return isTowardsEnd ? QStyle::PE_IndicatorArrowDown : QStyle::PE_IndicatorArrowUp;
+    }
+    return isTowardsEnd != isRightToLeft(option) ? QStyle::PE_IndicatorArrowRight
+                                                 : QStyle::PE_IndicatorArrowLeft;
+}
+
+/// Draws a button at an end of the scroll bar. It has a face only while the mouse is on it: a
+/// scroll bar at rest is calm.
+bool drawLine(const BaseStyle &style, const PaintRequest &request, bool isTowardsEnd)
+{
+    const QStyleOption &option = *request.option;
+    if (isHovered(option) || has(option, QStyle::State_Sunken)) {
+        const QRectF face =
+            QRectF(option.rect).adjusted(faceMargin, faceMargin, -faceMargin, -faceMargin);
+        drawShape(*request.painter, face, cornerRadius(CornerSize::Base), Qt::NoPen,
+                  BaseStyle::buttonBrushes(&option, request.widget).background);
+    }
+    style.proxy()->drawPrimitive(lineArrow(option, isTowardsEnd), &option, request.painter,
+                                 request.widget);
+    return true;
 }
 
 } // namespace
@@ -78,29 +170,63 @@ QSize scrollBarSize(const BaseStyle &style, const ContentsRequest &request)
     return size;
 }
 
-bool drawCorner(const BaseStyle & /*style*/, const PaintRequest & /*request*/)
+bool drawCorner(const BaseStyle &style, const PaintRequest &request)
 {
-    return false;
+    fillGroove(style, request);
+    return true;
 }
 
-bool drawAddLine(const BaseStyle & /*style*/, const PaintRequest & /*request*/)
+bool drawAddLine(const BaseStyle &style, const PaintRequest &request)
 {
-    return false;
+    return drawLine(style, request, true);
 }
 
-bool drawSubLine(const BaseStyle & /*style*/, const PaintRequest & /*request*/)
+bool drawSubLine(const BaseStyle &style, const PaintRequest &request)
 {
-    return false;
+    return drawLine(style, request, false);
 }
 
-bool drawHandle(const BaseStyle & /*style*/, const PaintRequest & /*request*/)
+bool drawHandle(const BaseStyle & /*style*/, const PaintRequest &request)
 {
-    return false;
+    const auto *option = qstyleoption_cast<const QStyleOptionSlider *>(request.option);
+    if (!option) {
+        return false;
+    }
+    const QRect &rect = option->rect;
+    const int thickness = option->orientation == Qt::Horizontal ? rect.height() : rect.width();
+    // Rounded to whole pixels, the long edges of the handle stay sharp.
+    const int margin = int(handleMargin * thickness + 0.5);
+    const int radius = (thickness - 2 * margin + 1) / 2;
+    drawShape(*request.painter, QRectF(rect.adjusted(margin, margin, -margin, -margin)), radius,
+              Qt::NoPen, handleBrush(*option, request.widget));
+    return true;
 }
 
-bool drawScrollBar(const BaseStyle & /*style*/, const PaintRequest & /*request*/)
+bool drawScrollBar(const BaseStyle &style, const PaintRequest &request)
 {
-    return false;
+    const auto *option = qstyleoption_cast<const QStyleOptionSlider *>(request.option);
+    if (!option) {
+        return false;
+    }
+    if (hasGroove(request.widget)) {
+        fillGroove(style, request);
+    }
+    QStyleOptionSlider part = *option;
+    for (const Part &row : parts) {
+        if (!option->subControls.testFlag(row.subControl)) {
+            continue;
+        }
+        part.rect = style.proxy()->subControlRect(QStyle::CC_ScrollBar, option, row.subControl,
+                                                  request.widget);
+        part.state = stateOf(*option, row.subControl);
+        if (part.rect.isValid()) {
+            style.proxy()->drawControl(row.element, &part, request.painter, request.widget);
+        }
+    }
+    if (has(*option, QStyle::State_HasFocus)) {
+        drawFocusRect(style, request, option->rect);
+    }
+    return true;
 }
 
 } // namespace TARN::ScrollBars

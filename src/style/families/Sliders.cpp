@@ -2,16 +2,30 @@
 
 #include "resources/ThemeResources.h"
 #include "style/BaseStyle.h"
+#include "style/Drawing.h"
 #include "style/Geometry.h"
+#include "style/OptionState.h"
 #include "style/Properties.h"
 #include "style/catalogue/Names.h"
 
+#include <QtGui/QPainter>
 #include <QtWidgets/QSlider>
 #include <QtWidgets/QStyleOption>
+
+#include <climits>
 
 namespace TARN::Sliders {
 
 namespace {
+
+/// Ticks that are closer to each other than this would look like a bar.
+constexpr int minimumTickDistance = 3;
+
+/// More ticks than that fit no screen.
+constexpr qint64 maximumTickCount = 4096;
+
+/// Between the handle and the ticks, and between these and the edge of the slider.
+constexpr int tickGap = 2;
 
 struct RangeSliderBrush
 {
@@ -77,6 +91,204 @@ QRect handleRect(const BaseStyle &style, const SubControlRequest &request,
     return rect;
 }
 
+/// What all parts of one slider are drawn from.
+struct Look
+{
+    const BaseStyle &style;
+    const PaintRequest &request;
+    const QStyleOptionSlider &option;
+    QRect groove;
+    QRect handle;
+    bool isHorizontal;
+    bool isReversed; ///< whether the slider starts at the right or at the bottom
+    bool isHighContrast;
+};
+
+Look lookOf(const BaseStyle &style, const PaintRequest &request, const QStyleOptionSlider &option)
+{
+    const auto rectOf = [&](QStyle::SubControl subControl) {
+        return style.proxy()->subControlRect(QStyle::CC_Slider, &option, subControl,
+                                             request.widget);
+    };
+    // The toolkit mirrors sliders by turning them upside down; their direction mirrors no handle.
+    return {style,
+            request,
+            option,
+            rectOf(QStyle::SC_SliderGroove),
+            rectOf(QStyle::SC_SliderHandle),
+            option.orientation == Qt::Horizontal,
+            option.upsideDown,
+            isSet(request.widget, "slider_high_contrast")};
+}
+
+/// Draws the groove or a part of it, with an outline in high contrast.
+void drawBar(const Look &look, const QRect &rect, const QBrush &brush,
+             Helpers::StraightCornerFlags straightCorners)
+{
+    QPainter &painter = *look.request.painter;
+    const int radius = cornerRadius(CornerSize::Base);
+    if (look.isHighContrast) {
+        const QBrush &border =
+            themeBrush(BrushName::HighContrastBorderBrush, isEnabled(look.option));
+        drawShape(painter, onHalfPixel(rect), radius, outlinePen(border), brush, straightCorners);
+    } else {
+        drawShape(painter, QRectF(rect), radius, Qt::NoPen, brush, straightCorners);
+    }
+}
+
+/// Returns the part of the groove from its start to the middle of the handle.
+QRect filledRect(const Look &look)
+{
+    QRect rect = look.groove;
+    const int x = look.handle.left() + look.handle.width() / 2;
+    const int y = look.handle.top() + look.handle.height() / 2;
+    if (look.isHorizontal) {
+        look.isReversed ? rect.setLeft(x) : rect.setRight(x - 1);
+    } else {
+        look.isReversed ? rect.setTop(y) : rect.setBottom(y - 1);
+    }
+    return rect & look.groove;
+}
+
+/// Returns the corners of the filled part that lie under the handle.
+Helpers::StraightCornerFlags cornersAtHandle(const Look &look)
+{
+    if (look.isHorizontal) {
+        return look.isReversed ? Helpers::StraightTopLeft | Helpers::StraightBottomLeft
+                               : Helpers::StraightTopRight | Helpers::StraightBottomRight;
+    }
+    return look.isReversed ? Helpers::StraightTopLeft | Helpers::StraightTopRight
+                           : Helpers::StraightBottomLeft | Helpers::StraightBottomRight;
+}
+
+void drawGroove(const Look &look)
+{
+    const bool enabled = isEnabled(look.option);
+    drawBar(look, look.groove,
+            look.isHighContrast ? themeBrush(BrushName::HighContrastBackgroundBrush, enabled)
+                                : look.style.grooveBackgroundBrush(enabled),
+            Helpers::NoStraightCorner);
+    // What a range slider fills lies between two handles, of which the option knows one: such a
+    // slider draws it itself.
+    if (!isSet(look.request.widget, "rangeSlider")) {
+        const bool isHighlighted = isSet(look.request.widget, "slider_highlighted");
+        drawBar(look, filledRect(look),
+                themeBrush(isHighlighted ? BrushName::MainBrush : BrushName::MainSubLevel1Brush,
+                           enabled),
+                cornersAtHandle(look));
+    }
+}
+
+/// Returns how far the values of neighbouring ticks are apart: what the slider asks for, or the
+/// multiple of it that leaves room between the ticks.
+qint64 tickInterval(const QStyleOptionSlider &option, qint64 range, int available)
+{
+    const qint64 most = qBound<qint64>(1, available / minimumTickDistance, maximumTickCount);
+    qint64 interval = option.tickInterval;
+    if (interval <= 0) {
+        const bool areStepsApart = option.singleStep > 0 && range / option.singleStep <= most;
+        interval = areStepsApart ? option.singleStep : option.pageStep;
+    }
+    interval = qMax<qint64>(1, interval);
+    const qint64 count = range / interval;
+    return count > most ? interval * ((count + most - 1) / most) : interval;
+}
+
+/// Returns the strip along the slider in which ticks stand, before or after the groove.
+QRect tickStrip(const Look &look, bool isAfter)
+{
+    const QStyle &proxy = *look.style.proxy();
+    const QWidget *widget = look.request.widget;
+    const int thickness = proxy.pixelMetric(QStyle::PM_SliderThickness, &look.option, widget);
+    const int length =
+        proxy.pixelMetric(QStyle::PM_SliderTickmarkOffset, &look.option, widget) - tickGap;
+    const int gap = thickness / 2 + tickGap;
+    const int across = isAfter ? gap : 1 - gap - length;
+    const QPoint center = look.groove.center();
+    QRect strip = look.option.rect;
+    if (look.isHorizontal) {
+        strip.setTop(center.y() + across);
+        strip.setHeight(length);
+    } else {
+        strip.setLeft(center.x() + across);
+        strip.setWidth(length);
+    }
+    return strip & look.option.rect;
+}
+
+void drawTick(const Look &look, const QRect &strip, int position, const QBrush &brush)
+{
+    const QRect tick = look.isHorizontal
+                           ? QRect(strip.left() + position, strip.top(), 1, strip.height())
+                           : QRect(strip.left(), strip.top() + position, strip.width(), 1);
+    look.request.painter->fillRect(tick & strip, brush);
+}
+
+/// Draws the ticks of one side.
+void drawTicks(const Look &look, const QRect &strip)
+{
+    const QStyleOptionSlider &option = look.option;
+    const QStyle &proxy = *look.style.proxy();
+    const QWidget *widget = look.request.widget;
+    const int available = proxy.pixelMetric(QStyle::PM_SliderSpaceAvailable, &option, widget);
+    const int length = proxy.pixelMetric(QStyle::PM_SliderLength, &option, widget);
+    // The middle of a handle lies between two pixels: the tick is on the one towards the end.
+    const int middle = look.isReversed ? (length - 1) / 2 : length / 2;
+    const qint64 range = qint64(option.maximum) - option.minimum;
+    const qint64 interval = tickInterval(option, range, available);
+    const QBrush &brush = themeBrush(BrushName::InputForegroundBrush, isEnabled(option));
+    // The toolkit computes with ranges that fit an int only.
+    const int shift = range > INT_MAX ? 1 : 0;
+    for (qint64 step = 0; step <= range; step += interval) {
+        const int position = QStyle::sliderPositionFromValue(
+            0, int(range >> shift), int(step >> shift), available, look.isReversed);
+        drawTick(look, strip, position + middle, brush);
+    }
+}
+
+/// Above and left of the groove are the same to the toolkit, as are below and right.
+void drawTicks(const Look &look)
+{
+    if (look.option.tickPosition & QSlider::TicksAbove) {
+        drawTicks(look, tickStrip(look, false));
+    }
+    if (look.option.tickPosition & QSlider::TicksBelow) {
+        drawTicks(look, tickStrip(look, true));
+    }
+}
+
+const QBrush &handleBrush(const QStyleOptionSlider &option)
+{
+    if (isEnabled(option) && option.activeSubControls.testFlag(QStyle::SC_SliderHandle)) {
+        if (has(option, QStyle::State_Sunken)) {
+            return themeBrush(BrushName::SliderThumbNailPressedBrush, true);
+        }
+        if (has(option, QStyle::State_MouseOver)) {
+            return themeBrush(BrushName::SliderThumbNailHoverBrush, true);
+        }
+    }
+    return themeBrush(BrushName::InputForegroundBrush, isEnabled(option));
+}
+
+void drawHandle(const Look &look)
+{
+    QPainter &painter = *look.request.painter;
+    const QRectF rect = look.isHighContrast ? onHalfPixel(look.handle) : QRectF(look.handle);
+    const QPen pen =
+        look.isHighContrast
+            ? outlinePen(themeBrush(BrushName::HighContrastBorderBrush, isEnabled(look.option)))
+            : QPen(Qt::NoPen);
+    if (rect.width() == rect.height()) {
+        // A circle is a square with the roundest corners, which are drawn faster.
+        drawShape(painter, rect, look.handle.width(), pen, handleBrush(look.option));
+        return;
+    }
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(pen);
+    painter.setBrush(handleBrush(look.option));
+    painter.drawEllipse(rect);
+}
+
 } // namespace
 
 QRect subControlRect(const BaseStyle &style, const SubControlRequest &request)
@@ -128,9 +340,26 @@ void polishRangeSlider(BaseStyle & /*style*/, QWidget &widget)
     widget.setProperty("CornerRadius", ThemeResources::getCornerRadius(QStringLiteral("BaseSize")));
 }
 
-bool drawSlider(const BaseStyle & /*style*/, const PaintRequest & /*request*/)
+bool drawSlider(const BaseStyle &style, const PaintRequest &request)
 {
-    return false;
+    const auto *option = qstyleoption_cast<const QStyleOptionSlider *>(request.option);
+    if (!option) {
+        return false;
+    }
+    const Look look = lookOf(style, request, *option);
+    if (option->subControls.testFlag(QStyle::SC_SliderGroove)) {
+        drawGroove(look);
+    }
+    if (option->subControls.testFlag(QStyle::SC_SliderTickmarks)) {
+        drawTicks(look);
+    }
+    if (option->subControls.testFlag(QStyle::SC_SliderHandle)) {
+        drawHandle(look);
+    }
+    if (has(*option, QStyle::State_HasFocus)) {
+        drawFocusRect(style, request, option->rect);
+    }
+    return true;
 }
 
 } // namespace TARN::Sliders

@@ -22,27 +22,6 @@ constexpr int largeHeight = 50;
 /// How much wider than the style knows the bold text of a selected tab is.
 constexpr int boldGrowth = 2;
 
-bool isWest(QTabBar::Shape shape)
-{
-    return shape == QTabBar::RoundedWest || shape == QTabBar::TriangularWest;
-}
-
-bool isEast(QTabBar::Shape shape)
-{
-    return shape == QTabBar::RoundedEast || shape == QTabBar::TriangularEast;
-}
-
-bool isVertical(QTabBar::Shape shape)
-{
-    return isWest(shape) || isEast(shape);
-}
-
-/// Tells whether selected tabs are marked by their colour, not by bold text.
-bool isCurrentTabHighlighted(const QWidget *tabBar)
-{
-    return isSet(tabBar, "currentTabHighlighted") || isSet(qApp, "appCurrentTabHighlighted");
-}
-
 /// Returns the height that the base style gave the first tab that was ever measured.
 int baseHeight(const QSize &size)
 {
@@ -117,6 +96,31 @@ int stretchedExtent(const QStyleOptionTab &option, const QTabBar &tabBar, int ex
 }
 
 } // namespace
+
+bool isSouth(QTabBar::Shape shape)
+{
+    return shape == QTabBar::RoundedSouth || shape == QTabBar::TriangularSouth;
+}
+
+bool isWest(QTabBar::Shape shape)
+{
+    return shape == QTabBar::RoundedWest || shape == QTabBar::TriangularWest;
+}
+
+bool isEast(QTabBar::Shape shape)
+{
+    return shape == QTabBar::RoundedEast || shape == QTabBar::TriangularEast;
+}
+
+bool isVertical(QTabBar::Shape shape)
+{
+    return isWest(shape) || isEast(shape);
+}
+
+bool isCurrentTabHighlighted(const QWidget *tabBar)
+{
+    return isSet(tabBar, "currentTabHighlighted") || isSet(qApp, "appCurrentTabHighlighted");
+}
 
 QRect tabBarRect(const BaseStyle &style, const SubElementRequest &request)
 {
@@ -199,31 +203,6 @@ QSize tabSize(const BaseStyle &style, const ContentsRequest &request)
 void polishFont(BaseStyle & /*style*/, QWidget &widget)
 {
     setPolishedFont(widget, ThemeResources::getFont(fontSize(widget)));
-}
-
-bool drawWidgetFrame(const BaseStyle & /*style*/, const PaintRequest & /*request*/)
-{
-    return false;
-}
-
-bool drawBarBase(const BaseStyle & /*style*/, const PaintRequest & /*request*/)
-{
-    return false;
-}
-
-bool drawCloseIndicator(const BaseStyle & /*style*/, const PaintRequest & /*request*/)
-{
-    return false;
-}
-
-bool drawTabShape(const BaseStyle & /*style*/, const PaintRequest & /*request*/)
-{
-    return false;
-}
-
-bool drawTabLabel(const BaseStyle & /*style*/, const PaintRequest & /*request*/)
-{
-    return false;
 }
 
 } // namespace TARN::Tabs

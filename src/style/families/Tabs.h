@@ -3,15 +3,24 @@
 #include "style/Requests.h"
 
 #include <QtCore/QRect>
-
-class QWidget;
+#include <QtWidgets/QTabBar>
 
 namespace TARN {
 class BaseStyle;
 }
 
-/// Tab bars and tab widgets.
+/// Tab bars and tab widgets: their sizes and rectangles. TabPainting.h paints them.
 namespace TARN::Tabs {
+
+/// The side of the page at which the tabs stand, whether they are rounded or triangular.
+bool isSouth(QTabBar::Shape shape);
+bool isWest(QTabBar::Shape shape);
+bool isEast(QTabBar::Shape shape);
+/// Tells whether the tabs stand one below the other.
+bool isVertical(QTabBar::Shape shape);
+
+/// Tells whether selected tabs are marked by their colour, not by bold text.
+bool isCurrentTabHighlighted(const QWidget *tabBar);
 
 QRect tabBarRect(const BaseStyle &style, const SubElementRequest &request);
 QRect rightButtonRect(const BaseStyle &style, const SubElementRequest &request);
@@ -19,11 +28,5 @@ QRect textRect(const BaseStyle &style, const SubElementRequest &request);
 QSize tabSize(const BaseStyle &style, const ContentsRequest &request);
 
 void polishFont(BaseStyle &style, QWidget &widget);
-
-bool drawWidgetFrame(const BaseStyle &style, const PaintRequest &request);
-bool drawBarBase(const BaseStyle &style, const PaintRequest &request);
-bool drawCloseIndicator(const BaseStyle &style, const PaintRequest &request);
-bool drawTabShape(const BaseStyle &style, const PaintRequest &request);
-bool drawTabLabel(const BaseStyle &style, const PaintRequest &request);
 
 } // namespace TARN::Tabs
