@@ -1,0 +1,10 @@
+#pragma once
+
+#include "Measurements.h"
+#include "PaintLimits.h"
+
+/// Prints what was measured: under "fusion" as it is, under \a styles as ratios.
+void printTable(const Measurements &measurements, const QStringList &styles);
+
+/// Prints the judgements. Returns whether all of them are met.
+bool printLimits(const std::vector<Judgement> &cases, const std::vector<Judgement> &whole);
