@@ -3,7 +3,9 @@
 #include "resources/ProcessCache.h"
 #include "resources/ThemeResources.h"
 #include "style/ComboBoxDefaultItemDelegate.h"
+#include "style/Drawing.h"
 #include "style/Geometry.h"
+#include "style/LabelText.h"
 #include "style/Metrics.h"
 #include "style/Mnemonics.h"
 #include "style/Painting.h"
@@ -180,12 +182,29 @@ void BaseStyle::drawItemText(QPainter *painter, const QRect &rect, int flags,
                              QPalette::ColorRole textRole) const
 {
     if (enabled) {
-        QProxyStyle::drawItemText(painter, rect, flags, palette, enabled, text, textRole);
+        drawText(painter, rect, flags, palette, enabled, text, textRole);
         return;
     }
     QPalette disabled = palette;
     disabled.setBrush(QPalette::All, textRole, palette.color(QPalette::Disabled, textRole));
-    QProxyStyle::drawItemText(painter, rect, flags, disabled, enabled, text, textRole);
+    drawText(painter, rect, flags, disabled, enabled, text, textRole);
+}
+
+/// Draws what the base style draws, in most cases without finding the glyphs again.
+void BaseStyle::drawText(QPainter *painter, const QRect &rect, int flags, const QPalette &palette,
+                         bool enabled, const QString &text, QPalette::ColorRole textRole) const
+{
+    const bool isPlain = enabled || (proxy()->styleHint(SH_DitherDisabledText) == 0 &&
+                                     proxy()->styleHint(SH_EtchDisabledText) == 0);
+    const QPen pen = painter->pen();
+    if (textRole != QPalette::NoRole) {
+        painter->setPen(outlinePen(palette.brush(textRole)));
+    }
+    const bool isDrawn = isPlain && drawLabelText(*painter, rect, flags, text);
+    painter->setPen(pen);
+    if (!isDrawn) {
+        QProxyStyle::drawItemText(painter, rect, flags, palette, enabled, text, textRole);
+    }
 }
 
 void BaseStyle::drawItemPixmap(QPainter *painter, const QRect &rect, int alignment,

@@ -185,6 +185,8 @@ Q_SIGNALS:
     void paletteChanged(const QPalette &palette);
 
 private:
+    void drawText(QPainter *painter, const QRect &rect, int flags, const QPalette &palette,
+                  bool enabled, const QString &text, QPalette::ColorRole textRole) const;
     void filterWidgetEvent(QWidget &widget, const QEvent &event);
     void pressAlt(const QWidget &window);
     void releaseAlt(const QWidget &window);

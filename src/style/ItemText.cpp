@@ -29,34 +29,7 @@ namespace {
 
 constexpr QChar ellipsis(0x2026);
 
-/// A text without the ampersands that mark keys.
-struct Label
-{
-    QString text;
-    int underlined = -1; ///< the character to be underlined
-};
-
-Label readLabel(const ItemTextSetting &setting)
-{
-    const QString &source = setting.text;
-    if (setting.mnemonic == Mnemonic::None || !source.contains(QLatin1Char('&'))) {
-        return {source};
-    }
-    Label label;
-    for (int i = 0; i < source.size(); ++i) {
-        if (source[i] != QLatin1Char('&')) {
-            label.text += source[i];
-        } else if (++i < source.size()) {
-            if (setting.mnemonic == Mnemonic::Underlined && source[i] != QLatin1Char('&')) {
-                label.underlined = label.text.size();
-            }
-            label.text += source[i];
-        }
-    }
-    return label;
-}
-
-std::unique_ptr<QTextLayout> makeLayout(const ItemTextSetting &setting, const Label &label)
+std::unique_ptr<QTextLayout> makeLayout(const ItemTextSetting &setting, const MnemonicText &label)
 {
     QTextOption option;
     option.setWrapMode(setting.isWrapped ? QTextOption::WordWrap : QTextOption::ManualWrap);
@@ -65,16 +38,12 @@ std::unique_ptr<QTextLayout> makeLayout(const ItemTextSetting &setting, const La
     auto layout = std::make_unique<QTextLayout>(label.text, setting.font);
     layout->setTextOption(option);
     layout->setCacheEnabled(true);
-    if (label.underlined >= 0) {
-        QTextCharFormat underline;
-        underline.setFontUnderline(true);
-        layout->setFormats({{label.underlined, 1, underline}});
-    }
+    underline(*layout, label);
     return layout;
 }
 
 /// Returns \a label with what can be read of its text. The ellipsis may have taken its key.
-Label elided(const Label &label, const QString &visible)
+MnemonicText elided(const MnemonicText &label, const QString &visible)
 {
     const int end = label.underlined + 1;
     return {visible, label.text.leftRef(end) == visible.leftRef(end) ? label.underlined : -1};
@@ -229,7 +198,7 @@ std::shared_ptr<const ItemText> ItemText::of(const ItemTextSetting &setting)
 
 ItemText::ItemText(const ItemTextSetting &setting)
 {
-    const Label label = readLabel(setting);
+    const MnemonicText label = readMnemonic(setting.text, setting.mnemonic);
     m_layout = makeLayout(setting, label);
     // Of a text that is centred in too little height, the beginning is shown.
     const bool isCentred = setting.alignment.testFlag(Qt::AlignVCenter);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "style/MnemonicText.h"
+
 #include <mox_common_theme_export.h>
 
 #include <QtCore/QPoint>
@@ -14,13 +16,6 @@ class QPainter;
 class QTextLayout;
 
 namespace TARN {
-
-/// What an ampersand in a text means.
-enum class Mnemonic {
-    None,      ///< an ampersand
-    Hidden,    ///< it marks the key that chooses the item, which is not shown
-    Underlined ///< it marks the key that chooses the item, which is underlined
-};
 
 /// A text, and everything that its look depends on but its colour and its place.
 struct ItemTextSetting

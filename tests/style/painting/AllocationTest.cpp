@@ -81,7 +81,7 @@ QStyleOptionButton buttonOption(const QPushButton &button, QStyle::State state, 
 
 } // namespace
 
-/// That painting a widget again takes no heap memory, save what the toolkit's own text takes.
+/// That painting a widget again takes no heap memory.
 class AllocationTest : public QObject
 {
     Q_OBJECT
@@ -124,23 +124,19 @@ private Q_SLOTS:
         QCOMPARE(count, 0);
     }
 
-    void itsTextTakesWhatTheToolkitTakes()
+    void itsTextAllocatesNothing()
     {
         const PaintTheme theme({2, 4, 6, 8});
         const TARN::BaseStyle style;
         QPushButton button;
         const QStyle::State state = QStyle::State_Enabled | QStyle::State_Active;
-        QStyleOptionButton option = buttonOption(button, state, "Caption");
-        const int ofText = allocationsOf([&](QPainter &painter) {
-            style.QProxyStyle::drawItemText(&painter, option.rect, Qt::AlignCenter, option.palette,
-                                            true, option.text, QPalette::ButtonText);
-        });
-        const int ofButton = allocationsOf([&](QPainter &painter) {
-            // The option is prepared by painting; a widget brings a new one each time.
+        const QStyleOptionButton fresh = buttonOption(button, state, "Caption");
+        const int count = allocationsOf([&](QPainter &painter) {
+            // Painting prepares the option; a widget brings a new one each time.
+            QStyleOptionButton option = fresh;
             style.drawControl(QStyle::CE_PushButton, &option, &painter, &button);
         });
-        QVERIFY(ofText > 0);
-        QCOMPARE(ofButton, ofText);
+        QCOMPARE(count, 0);
     }
 };
 
