@@ -1,5 +1,7 @@
 #include "style/Properties.h"
 
+#include <QtCore/QMetaProperty>
+
 #include <algorithm>
 #include <array>
 #include <typeinfo>
@@ -10,11 +12,12 @@ namespace {
 
 /// Answers to questions about classes and names, each computed once unless another one took its
 /// place. A class is known by the address of something that is its alone.
+template <typename Answer>
 class ClassAnswers
 {
 public:
     template <typename Question>
-    bool answer(const void *classIdentity, const char *name, Question question)
+    Answer answer(const void *classIdentity, const char *name, Question question)
     {
         Entry &entry = m_entries.at(slotOf(classIdentity, name));
         if (entry.classIdentity != classIdentity || entry.name != name) {
@@ -28,7 +31,7 @@ private:
     {
         const void *classIdentity = nullptr;
         const char *name = nullptr;
-        bool answer = false;
+        Answer answer{};
     };
 
     // Some forty names, asked of the few dozen classes that a window consists of.
@@ -44,25 +47,33 @@ private:
     std::array<Entry, entryCount> m_entries;
 };
 
-} // namespace
-
-bool hasProperty(const QObject &object, const char *property)
+bool isSetOn(const QObject &object, const char *property)
 {
-    static ClassAnswers declared;
-    const QMetaObject *metaObject = object.metaObject();
-    const bool isDeclared = declared.answer(
-        metaObject, property, [&] { return metaObject->indexOfProperty(property) >= 0; });
-    if (isDeclared) {
-        return true;
-    }
     const QList<QByteArray> names = object.dynamicPropertyNames();
     return std::any_of(names.cbegin(), names.cend(),
                        [property](const QByteArray &name) { return name == property; });
 }
 
+} // namespace
+
+QVariant propertyOf(const QObject *object, const char *property)
+{
+    if (!object) {
+        return {};
+    }
+    static ClassAnswers<int> indices;
+    const QMetaObject *metaObject = object->metaObject();
+    const int index =
+        indices.answer(metaObject, property, [&] { return metaObject->indexOfProperty(property); });
+    if (index >= 0) {
+        return metaObject->property(index).read(object);
+    }
+    return isSetOn(*object, property) ? object->property(property) : QVariant();
+}
+
 bool isA(const QObject *object, const char *className)
 {
-    static ClassAnswers inherited;
+    static ClassAnswers<bool> inherited;
     // Classes without a meta object of their own may know further names all the same.
     return object && inherited.answer(&typeid(*object), className,
                                       [&] { return object->inherits(className); });

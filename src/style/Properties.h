@@ -7,19 +7,15 @@
 /// the widgets settle is remembered by class. All names must be string literals.
 namespace TARN {
 
-/// Tells whether \a object has \a property, declared by its class or set on it.
-bool hasProperty(const QObject &object, const char *property);
-
-/// Returns the value of \a property; an invalid one when there is no \a object or no such property.
-inline QVariant propertyOf(const QObject *object, const char *property)
-{
-    return object && hasProperty(*object, property) ? object->property(property) : QVariant();
-}
+/// Returns the value of \a property, declared by the class of \a object or set on it; an invalid
+/// one when there is no such property or no \a object.
+QVariant propertyOf(const QObject *object, const char *property);
 
 /// Tells whether \a object exists and its \a property is true.
 inline bool isSet(const QObject *object, const char *property)
 {
-    return propertyOf(object, property).toBool();
+    const QVariant value = propertyOf(object, property);
+    return value.isValid() && value.toBool();
 }
 
 /// Tells whether \a object exists and is of the class \a className or one derived from it.
