@@ -116,10 +116,13 @@ QRect ItemPainter::rectOf(QStyle::SubElement element) const
     return m_style.proxy()->subElementRect(element, &m_option, m_widget);
 }
 
+/// Disabled texts have the same colour on every ground: the selection is so faint then that
+/// highlighted text would not be read on it.
 const QBrush &ItemPainter::textBrush() const
 {
+    const bool isOnAccent = m_isHighlighted && isEnabled(m_option);
     return m_option.palette.brush(m_colorGroup,
-                                  m_isHighlighted ? QPalette::HighlightedText : QPalette::Text);
+                                  isOnAccent ? QPalette::HighlightedText : QPalette::Text);
 }
 
 /// Tells whether nothing needs to be clipped, which takes as long as painting most of an item.

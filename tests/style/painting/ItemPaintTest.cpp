@@ -296,7 +296,7 @@ private Q_SLOTS:
         QTest::newRow("hovered, not highlighted") << (enabled | hovered) << false << textColor;
         QTest::newRow("edited, selected") << (enabled | selected | editing) << true << textColor;
         QTest::newRow("disabled") << 0 << true << QColor(1, 2, 3);
-        QTest::newRow("disabled, selected") << selected << true << QColor(4, 5, 6);
+        QTest::newRow("disabled, selected") << selected << true << QColor(1, 2, 3);
         QTest::newRow("disabled, under the mouse") << hovered << true << QColor(1, 2, 3);
         QTest::newRow("inactive") << int(QStyle::State_Enabled) << true << QColor(7, 8, 9);
     }
