@@ -91,6 +91,8 @@ void MainWindow::createMenus()
     m_rightToLeft = addWindowAction("action.swap"_s, "&Right to left"_s, QKeySequence("Ctrl+R"_s));
     m_rightToLeft->setCheckable(true);
     m_rightToLeft->setChecked(layoutDirection() == Qt::RightToLeft);
+    m_disabled = addWindowAction("view.hide"_s, "&Disabled"_s, QKeySequence("Ctrl+D"_s));
+    m_disabled->setCheckable(true);
     QAction *find = addWindowAction("action.search"_s, "&Find a page"_s, QKeySequence::Find);
     QAction *quit = addWindowAction(QString(), "&Quit"_s, QKeySequence("Ctrl+Q"_s));
 
@@ -99,7 +101,7 @@ void MainWindow::createMenus()
     view->addActions({m_previous, m_next, find});
     view->addSeparator();
     view->addMenu(m_themeMenu);
-    view->addAction(m_rightToLeft);
+    view->addActions({m_rightToLeft, m_disabled});
     QMenu *help = menuBar()->addMenu("&Help"_s);
     connect(help->addAction("&About the gallery"_s), &QAction::triggered, this,
             &MainWindow::showAbout);
@@ -109,6 +111,7 @@ void MainWindow::createMenus()
     connect(m_previous, &QAction::triggered, this, [this] { m_list->movePage(-1); });
     connect(m_next, &QAction::triggered, this, [this] { m_list->movePage(1); });
     connect(m_rightToLeft, &QAction::toggled, this, &MainWindow::setRightToLeft);
+    connect(m_disabled, &QAction::toggled, this, &MainWindow::setPagesDisabled);
     connect(find, &QAction::triggered, m_list, &PageList::focusSearch);
     connect(quit, &QAction::triggered, this, &QWidget::close);
 }
@@ -127,7 +130,7 @@ void MainWindow::createToolBar()
     bar->addActions({m_previous, m_next});
     bar->addSeparator();
     m_themeButtonAction = bar->addWidget(m_themeButton);
-    bar->addAction(m_rightToLeft);
+    bar->addActions({m_rightToLeft, m_disabled});
 }
 
 void MainWindow::showPage(int index)
@@ -145,7 +148,7 @@ void MainWindow::showFixedTheme(const QString &name)
 
 void MainWindow::displayPage(int index)
 {
-    QWidget *&view = m_pageViews[index];
+    QScrollArea *&view = m_pageViews[index];
     if (!view) {
         view = createPageView(index);
         m_stack->addWidget(view);
@@ -167,7 +170,7 @@ void MainWindow::keepOnlyCurrentPage()
 
 void MainWindow::dropHiddenPages()
 {
-    for (QWidget *&view : m_pageViews) {
+    for (QScrollArea *&view : m_pageViews) {
         if (view && view != m_stack->currentWidget()) {
             m_stack->removeWidget(view);
             view->deleteLater();
@@ -176,12 +179,13 @@ void MainWindow::dropHiddenPages()
     }
 }
 
-QWidget *MainWindow::createPageView(int index)
+QScrollArea *MainWindow::createPageView(int index)
 {
     auto *area = new QScrollArea;
     area->setFrameShape(QFrame::NoFrame);
     area->setWidgetResizable(true);
     area->setWidget(pages().at(index).create());
+    area->widget()->setDisabled(m_disabled->isChecked());
     return area;
 }
 
@@ -210,6 +214,16 @@ void MainWindow::displayTheme(const QString &name)
 void MainWindow::setRightToLeft(bool rightToLeft)
 {
     QApplication::setLayoutDirection(rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
+}
+
+// The areas around the pages stay enabled, so that they can be scrolled.
+void MainWindow::setPagesDisabled(bool disabled)
+{
+    for (QScrollArea *view : qAsConst(m_pageViews)) {
+        if (view) {
+            view->widget()->setDisabled(disabled);
+        }
+    }
 }
 
 void MainWindow::showAbout()

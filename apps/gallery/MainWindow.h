@@ -4,6 +4,7 @@
 #include <QtWidgets/QMainWindow>
 
 class QLabel;
+class QScrollArea;
 class QStackedWidget;
 class QToolButton;
 
@@ -43,11 +44,12 @@ private:
                              const QKeySequence &shortcut);
 
     void displayPage(int index);
-    QWidget *createPageView(int index);
+    QScrollArea *createPageView(int index);
     void dropHiddenPages();
     void switchTheme(const QString &name);
     void displayTheme(const QString &name);
     void setRightToLeft(bool rightToLeft);
+    void setPagesDisabled(bool disabled);
     void showAbout();
 
     ThemeQApplication &m_application;
@@ -56,7 +58,7 @@ private:
     PageList *m_list;
     QLabel *m_title;
     QStackedWidget *m_stack;
-    QVector<QWidget *> m_pageViews; // null until a page is first shown, or when it was dropped
+    QVector<QScrollArea *> m_pageViews; // null until a page is first shown, or when it was dropped
     bool m_keepsHiddenPages = true;
 
     ThemeMenu *m_themeMenu;
@@ -66,6 +68,7 @@ private:
     QAction *m_previous = nullptr;
     QAction *m_next = nullptr;
     QAction *m_rightToLeft = nullptr;
+    QAction *m_disabled = nullptr;
 };
 
 } // namespace TARN::Gallery

@@ -20,7 +20,6 @@
 #include <QtWidgets/QStylePainter>
 #include <QtWidgets/QTextBrowser>
 #include <QtWidgets/QToolButton>
-#include <QtWidgets/QToolTip>
 #include <QtWidgets/QUndoStack>
 #include <QtWidgets/QUndoView>
 
@@ -37,7 +36,6 @@ public:
     explicit TipSample(const QString &text)
         : QLabel(text)
     {
-        setPalette(QToolTip::palette());
         setForegroundRole(QPalette::ToolTipText);
         setMargin(1 + style()->pixelMetric(QStyle::PM_ToolTipLabelFrameWidth, nullptr, this));
     }

@@ -1,6 +1,8 @@
 #include "PageTable.h"
 
 #include "Pages.h"
+#include "StatesPage.h"
+#include "states/ElementSample.h"
 
 namespace TARN::Gallery {
 
@@ -16,12 +18,11 @@ constexpr Name views("Item views");
 constexpr Name containers("Containers");
 constexpr Name windows("Windows");
 constexpr Name dialogs("Dialogs");
+constexpr Name states("States");
 
-} // namespace
-
-const QVector<Page> &pages()
+QVector<Page> widgetPages()
 {
-    static const QVector<Page> table = {
+    return {
         {Name("push-buttons"), Name("Push buttons"), buttons, createPushButtonsPage},
         {Name("tool-buttons"), Name("Tool buttons"), buttons, createToolButtonsPage},
         {Name("check-boxes"), Name("Check boxes"), buttons, createCheckBoxesPage},
@@ -76,6 +77,24 @@ const QVector<Page> &pages()
         {Name("classic-wizard"), Name("Wizard, classic"), dialogs, createClassicWizardPage},
         {Name("modern-wizard"), Name("Wizard, modern"), dialogs, createModernWizardPage},
     };
+}
+
+/// Returns one page for each family of samples.
+QVector<Page> statesPages()
+{
+    QVector<Page> table;
+    for (const ElementFamily &family : elementFamilies()) {
+        table.append(
+            {family.id, family.title, states, [&family] { return createStatesPage(family); }});
+    }
+    return table;
+}
+
+} // namespace
+
+const QVector<Page> &pages()
+{
+    static const QVector<Page> table = widgetPages() + statesPages();
     return table;
 }
 

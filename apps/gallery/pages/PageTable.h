@@ -3,6 +3,8 @@
 #include <QtCore/QLatin1String>
 #include <QtCore/QVector>
 
+#include <functional>
+
 class QWidget;
 
 namespace TARN::Gallery {
@@ -14,7 +16,7 @@ struct Page
     QLatin1String title;
     QLatin1String family; ///< pages of one family stand next to each other
     /// Creates the page's contents, which the caller owns. Needs the application object.
-    QWidget *(*create)();
+    std::function<QWidget *()> create;
 };
 
 /// Returns all pages, in the order in which they are listed.

@@ -4,6 +4,7 @@
 #include "SamplePage.h"
 #include "Symbols.h"
 
+#include <QtCore/QEvent>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QTabBar>
 #include <QtWidgets/QTabWidget>
@@ -70,15 +71,31 @@ QWidget *documentTabs()
     return tabs;
 }
 
+/// A tab bar whose last tab is coloured as links are.
+class ColoredTabBar : public QTabBar
+{
+public:
+    void colorLastTab() { setTabTextColor(count() - 1, palette().color(QPalette::Link)); }
+
+protected:
+    void changeEvent(QEvent *event) override
+    {
+        QTabBar::changeEvent(event);
+        if (event->type() == QEvent::PaletteChange) {
+            colorLastTab();
+        }
+    }
+};
+
 QTabBar *tabBar()
 {
-    auto *bar = new QTabBar;
+    auto *bar = new ColoredTabBar;
     for (const QString &name : {"Overview.tif"_s, "Heat zone.tif"_s, "Root.tif"_s,
                                 "Base metal.tif"_s, "Etched.tif"_s, "Rejected.tif"_s}) {
         bar->addTab(symbol("view.image"_s), name);
     }
     bar->setCurrentIndex(1);
-    bar->setTabTextColor(5, bar->palette().color(QPalette::Link));
+    bar->colorLastTab();
     return bar;
 }
 

@@ -1,0 +1,37 @@
+#include "states/ElementSample.h"
+
+#include "states/Families.h"
+
+namespace TARN::Gallery {
+
+const QVector<PaintedElement> &rowsOf(ElementTable table)
+{
+    switch (table) {
+    case ElementTable::Primitives:
+        return paintedPrimitives();
+    case ElementTable::Controls:
+        return paintedControls();
+    case ElementTable::ComplexControls:
+        break;
+    }
+    return paintedComplexControls();
+}
+
+QString elementName(const ElementId &id)
+{
+    return QString::fromLatin1(rowsOf(id.table).at(id.element).name);
+}
+
+const QVector<ElementFamily> &elementFamilies()
+{
+    static const QVector<ElementFamily> families = {
+        buttonFamily(),      toolButtonFamily(), checkBoxFamily(),     inputFamily(),
+        comboBoxFamily(),    spinBoxFamily(),    sliderFamily(),       scrollBarFamily(),
+        progressBarFamily(), tabFamily(),        toolBoxFamily(),      menuFamily(),
+        itemViewFamily(),    headerFamily(),     toolBarFamily(),      windowFamily(),
+        cardFamily(),        frameFamily(),      tipAndStatusFamily(),
+    };
+    return families;
+}
+
+} // namespace TARN::Gallery
