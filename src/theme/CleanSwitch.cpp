@@ -8,6 +8,7 @@
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QDockWidget>
 #include <QtWidgets/QLabel>
+#include <QtWidgets/QMdiArea>
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QTabBar>
 
@@ -73,6 +74,31 @@ void colorPlainLabels(const QVector<QPointer<QLabel>> &labels)
     }
 }
 
+/// Returns the areas for sub-windows that have the background which the toolkit gave them: it takes
+/// that from the palette when an area is made, and never again.
+QVector<QPointer<QMdiArea>> plainAreas()
+{
+    QVector<QPointer<QMdiArea>> areas;
+    const QBrush background = QGuiApplication::palette().brush(QPalette::Dark);
+    const QWidgetList widgets = QApplication::allWidgets();
+    for (QWidget *widget : widgets) {
+        auto *area = qobject_cast<QMdiArea *>(widget);
+        if (area && area->background() == background) {
+            areas.append(area);
+        }
+    }
+    return areas;
+}
+
+void colorPlainAreas(const QVector<QPointer<QMdiArea>> &areas)
+{
+    for (QMdiArea *area : areas) {
+        if (area) {
+            area->setBackground(QGuiApplication::palette().brush(QPalette::Dark));
+        }
+    }
+}
+
 /// Fits the buttons that close tabs to the font, since tab bars size them only once.
 void fitCloseButtons()
 {
@@ -122,6 +148,7 @@ CleanSwitch::CleanSwitch(QApplication &app, ThemeFootprint &footprint)
         m_classFonts = chosenClassFonts();
     }
     m_plainLabels = plainLabels();
+    m_plainAreas = plainAreas();
     footprint.takeBack();
     ProcessCache::dropAll();
     // Pictures are kept by path and size there, which two themes' resource files may share.
@@ -166,6 +193,7 @@ void CleanSwitch::finish() const
     }
     if (m_active) {
         colorPlainLabels(m_plainLabels);
+        colorPlainAreas(m_plainAreas);
         fitCloseButtons();
         fetchIcons();
         repaintDocumentLinks(m_formerLink, QGuiApplication::palette().link());

@@ -10,6 +10,7 @@
 
 class QApplication;
 class QLabel;
+class QMdiArea;
 
 namespace TARN {
 
@@ -55,6 +56,7 @@ private:
     QBrush m_formerLink;
     QMap<QByteArray, QFont> m_classFonts;
     QVector<QPointer<QLabel>> m_plainLabels;
+    QVector<QPointer<QMdiArea>> m_plainAreas;
 };
 
 } // namespace TARN
