@@ -7,6 +7,7 @@
 #include <QtGui/QPainter>
 
 #include <cmath>
+#include <memory>
 #include <optional>
 #include <utility>
 
@@ -107,15 +108,15 @@ void Tile::completeStraightCorners(const TileKey &key)
     }
 }
 
-const Tile &keptTile(const TileKey &key)
+std::shared_ptr<const Tile> keptTile(const TileKey &key)
 {
-    static QCache<TileKey, Tile> tiles(tileBytes);
-    const Tile *tile = tiles.object(key);
-    if (!tile) {
-        tile = new Tile(key);
-        tiles.insert(key, const_cast<Tile *>(tile), int(tile->picture.sizeInBytes()));
+    static QCache<TileKey, std::shared_ptr<const Tile>> tiles(tileBytes);
+    if (const auto *kept = tiles.object(key)) {
+        return *kept;
     }
-    return *tile;
+    auto tile = std::make_shared<const Tile>(key);
+    tiles.insert(key, new std::shared_ptr<const Tile>(tile), int(tile->picture.sizeInBytes()));
+    return tile;
 }
 
 bool isPlain(const QBrush &brush)
@@ -257,16 +258,16 @@ TileKey TiledShape::key(Helpers::StraightCornerFlags straightCorners) const
 
 void TiledShape::draw(Helpers::StraightCornerFlags straightCorners)
 {
-    const Tile &tile = keptTile(key(straightCorners));
+    const std::shared_ptr<const Tile> tile = keptTile(key(straightCorners));
     const bool antialiased = m_painter.testRenderHint(QPainter::Antialiasing);
     // All edges lie on whole pixels.
     m_painter.setRenderHint(QPainter::Antialiasing, false);
-    drawCorners(tile.picture);
+    drawCorners(tile->picture);
     if (m_rim > 0) {
-        drawEdges(tile.edge);
+        drawEdges(tile->edge);
     }
-    if (tile.fill.alpha() > 0) {
-        fillInside(tile.fill);
+    if (tile->fill.alpha() > 0) {
+        fillInside(tile->fill);
     }
     m_painter.setRenderHint(QPainter::Antialiasing, antialiased);
 }

@@ -111,7 +111,7 @@ constexpr int keptLineCount = 512;
 /// What is longer is no label, and there will not be many like it.
 constexpr int longestText = 256;
 
-using KeptLines = QCache<LineKey, Line>;
+using KeptLines = QCache<LineKey, std::shared_ptr<const Line>>;
 
 KeptLines &keptLines()
 {
@@ -128,14 +128,15 @@ KeptLines &keptLines()
     return *lines->value();
 }
 
-const Line &keptLine(const LineKey &key)
+std::shared_ptr<const Line> keptLine(const LineKey &key)
 {
-    const Line *line = keptLines().object(key);
-    if (!line) {
-        line = new Line(key);
-        keptLines().insert(key, const_cast<Line *>(line));
+    KeptLines &lines = keptLines();
+    if (const auto *kept = lines.object(key)) {
+        return *kept;
     }
-    return *line;
+    auto line = std::make_shared<const Line>(key);
+    lines.insert(key, new std::shared_ptr<const Line>(line));
+    return line;
 }
 
 /// Tells whether every character is one that stands in a line. White space at the ends is not drawn
@@ -180,17 +181,17 @@ bool drawLabelText(QPainter &painter, const QRect &rect, int flags, const QStrin
         return false;
     }
     const Qt::LayoutDirection direction = painter.layoutDirection();
-    const Line &line = keptLine(
+    const std::shared_ptr<const Line> line = keptLine(
         {text, painter.font(), painter.device()->logicalDpiY(), direction, mnemonicOf(flags)});
     const Qt::Alignment alignment = QStyle::visualAlignment(direction, Qt::Alignment(flags));
     const QRectF room(rect);
-    if ((flags & Qt::TextDontClip) != 0 || room.contains(boundsOf(line.size(), room, alignment))) {
-        line.draw(painter, room, alignment);
+    if ((flags & Qt::TextDontClip) != 0 || room.contains(boundsOf(line->size(), room, alignment))) {
+        line->draw(painter, room, alignment);
         return true;
     }
     painter.save();
     painter.setClipRect(room, Qt::IntersectClip);
-    line.draw(painter, room, alignment);
+    line->draw(painter, room, alignment);
     painter.restore();
     return true;
 }

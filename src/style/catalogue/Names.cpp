@@ -10,15 +10,21 @@ namespace TARN {
 
 namespace {
 
-constexpr std::size_t brushCount = 0
-#define MOX_BRUSH(name, twin, role, surfaces, meaning) +1
+/// Only their last values are of interest: how many there are.
+enum class Brushes : std::size_t {
+#define MOX_BRUSH(name, twin, role, surfaces, meaning) name,
 #include "style/catalogue/Variables.def"
-    ;
+    Count
+};
 
-constexpr std::size_t colorCount = 0
-#define MOX_COLOR(name, twin, role, surfaces, meaning) +1
+enum class Colors : std::size_t {
+#define MOX_COLOR(name, twin, role, surfaces, meaning) name,
 #include "style/catalogue/Variables.def"
-    ;
+    Count
+};
+
+constexpr auto brushCount = static_cast<std::size_t>(Brushes::Count);
+constexpr auto colorCount = static_cast<std::size_t>(Colors::Count);
 
 } // namespace
 
