@@ -1,5 +1,6 @@
 #include "style/families/Frames.h"
 
+#include "common_utils/DashedOutline.h"
 #include "resources/ProcessCache.h"
 #include "resources/ThemeResources.h"
 #include "style/BaseStyle.h"
@@ -130,18 +131,6 @@ ShadedFrame shadedFrame(QFrame::Shape shape)
     }
 }
 
-/// Returns the dotted pen of focus rectangles. The last one is kept: there is one focus, and a pen
-/// is allocated.
-const QPen &focusPen(const QBrush &brush)
-{
-    static QPen pen(Qt::NoPen);
-    if (pen.style() == Qt::NoPen || pen.brush() != brush) {
-        pen = QPen(brush, 0);
-        pen.setDashPattern({2, 2});
-    }
-    return pen;
-}
-
 } // namespace
 
 bool drawFocusRect(const BaseStyle & /*style*/, const PaintRequest &request)
@@ -153,10 +142,7 @@ bool drawFocusRect(const BaseStyle & /*style*/, const PaintRequest &request)
     if (!byKeyboard || isSet(request.widget, "hideFocusRect")) {
         return true;
     }
-    request.painter->setRenderHint(QPainter::Antialiasing);
-    request.painter->setPen(focusPen(request.option->palette.text()));
-    request.painter->setBrush(Qt::NoBrush);
-    request.painter->drawRoundedRect(onHalfPixel(request.option->rect), 1.0, 1.0);
+    drawDashedOutline(request.option->rect, request.option->palette.text(), *request.painter);
     return true;
 }
 
