@@ -185,8 +185,8 @@ void BaseStyle::drawItemText(QPainter *painter, const QRect &rect, int flags,
         drawText(painter, rect, flags, palette, enabled, text, textRole);
         return;
     }
-    QPalette disabled = palette;
-    disabled.setBrush(QPalette::All, textRole, palette.color(QPalette::Disabled, textRole));
+    const QPalette disabled =
+        paletteWith(palette, textRole, palette.color(QPalette::Disabled, textRole));
     drawText(painter, rect, flags, disabled, enabled, text, textRole);
 }
 

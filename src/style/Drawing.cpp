@@ -5,6 +5,8 @@
 #include "resources/ThemeResources.h"
 #include "style/BaseStyle.h"
 
+#include <QtGui/QFontMetrics>
+#include <QtGui/QGuiApplication>
 #include <QtGui/QPainter>
 #include <QtGui/QPixmap>
 #include <QtWidgets/QStyleOption>
@@ -13,7 +15,9 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <optional>
 #include <unordered_map>
+#include <utility>
 
 namespace TARN {
 
@@ -31,7 +35,7 @@ std::array<int, cornerSizeCount> readCornerRadii()
 
 QPen makeOutlinePen(const QBrush &brush)
 {
-    return QPen(brush, 1, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin);
+    return {brush, 1, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin};
 }
 
 /// The pens of the colours that were last used: a pen is allocated, and painting asks for the same
@@ -104,11 +108,17 @@ class ChangedPalettes
 public:
     QPalette palette(const QPalette &source, QPalette::ColorRole role, const QBrush &brush)
     {
-        Entry &entry = m_entries.at(slotOf(source, role, brush));
+        const std::size_t slot = slotOf(source, role, brush);
+        Entry &entry = m_entries.at(slot);
+        Entry &former = m_entries.at((slot + 1) % entryCount);
         if (!entry.isFor(source, role, brush)) {
-            QPalette changed = source;
-            changed.setBrush(source.currentColorGroup(), role, brush);
-            entry = {source, role, brush, changed};
+            // Two palettes of one slot would be copied over and over if either drove the other out.
+            std::swap(entry, former);
+            if (!entry.isFor(source, role, brush)) {
+                QPalette changed = source;
+                changed.setBrush(source.currentColorGroup(), role, brush);
+                entry = {source, role, brush, changed};
+            }
         }
         return entry.changed;
     }
@@ -141,6 +151,56 @@ private:
         }
         return key % entryCount;
     }
+
+    std::array<Entry, entryCount> m_entries;
+};
+
+/// What a text is elided for.
+struct Room
+{
+    Qt::TextElideMode mode = Qt::ElideNone;
+    int width = 0;
+    int flags = 0;
+
+    bool operator==(const Room &other) const
+    {
+        return mode == other.mode && width == other.width && flags == other.flags;
+    }
+};
+
+/// The texts that were last elided.
+class ElidedTexts
+{
+public:
+    ElidedTexts()
+    {
+        // The same font may now have other glyphs.
+        QObject::connect(qGuiApp, &QGuiApplication::fontDatabaseChanged, qGuiApp,
+                         [this] { m_entries.fill({}); });
+    }
+
+    QString text(const QFontMetrics &metrics, const QString &text, const Room &room)
+    {
+        const std::size_t slot = (qHash(text) * 31 + uint(room.width)) % entryCount;
+        Entry &entry = m_entries.at(slot);
+        if (!entry.metrics || *entry.metrics != metrics || entry.text != text ||
+            !(entry.room == room)) {
+            entry = {metrics, text, room,
+                     metrics.elidedText(text, room.mode, room.width, room.flags)};
+        }
+        return entry.elided;
+    }
+
+private:
+    struct Entry
+    {
+        std::optional<QFontMetrics> metrics;
+        QString text;
+        Room room;
+        QString elided;
+    };
+
+    static constexpr std::size_t entryCount = 127;
 
     std::array<Entry, entryCount> m_entries;
 };
@@ -265,6 +325,15 @@ QPalette paletteWith(const QPalette &palette, QPalette::ColorRole role, const QB
     }
     static ChangedPalettes palettes;
     return palettes.palette(palette, role, brush);
+}
+
+QString elidedText(const QFontMetrics &metrics, const QString &text, Qt::TextElideMode mode,
+                   int width, int flags)
+{
+    // Fonts are not to be taken down after the application, so they are left to the end of the
+    // process.
+    static auto *texts = new ElidedTexts;
+    return texts->text(metrics, text, {mode, width, flags});
 }
 
 void drawFocusRect(const BaseStyle &style, const PaintRequest &request, const QRect &rect)

@@ -9,6 +9,7 @@
 #include <QtGui/QPalette>
 #include <QtGui/QPen>
 
+class QFontMetrics;
 class QPainter;
 class QPixmap;
 class QStyle;
@@ -77,6 +78,11 @@ void drawItemPixmap(const QStyle &style, QPainter &painter, const QRect &rect,
 /// Returns \a palette with \a brush, unless it is none, as the \a role of its current colour group.
 /// What was asked for lately is kept: setting a brush copies a palette.
 QPalette paletteWith(const QPalette &palette, QPalette::ColorRole role, const QBrush &brush);
+
+/// Returns \a text as far as there is room for it in \a width; \a flags are those of drawing it.
+/// What was asked for lately is kept: measuring takes about as long as drawing.
+QString elidedText(const QFontMetrics &metrics, const QString &text, Qt::TextElideMode mode,
+                   int width, int flags = 0);
 
 /// Has the proxy of \a style mark \a rect as focused; whether that is seen is the primitive's
 /// matter.

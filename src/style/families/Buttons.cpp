@@ -134,16 +134,6 @@ bool isPrepared(const QStyleOptionButton &option, const QBrush &brush)
            option.palette.buttonText() == brush;
 }
 
-/// Returns the palette by which a label is drawn in \a brush.
-QPalette labelPalette(const QStyleOptionButton &button, const QBrush &brush)
-{
-    QPalette palette = button.palette;
-    if (!isEnabled(button)) {
-        palette.setCurrentColorGroup(QPalette::Disabled);
-    }
-    return paletteWith(palette, QPalette::ButtonText, brush);
-}
-
 QPixmap labelPixmap(const QStyleOptionButton &button, const QBrush &brush, const QWidget *widget)
 {
     const QIcon icon =
@@ -231,6 +221,15 @@ QBrush labelBrush(const QBrush &foreground, bool enabled)
     static ProcessCached<QBrush> brush([] { return textBrush(true); });
     static ProcessCached<QBrush> disabledBrush([] { return textBrush(false); });
     return enabled ? brush.value() : disabledBrush.value();
+}
+
+QPalette labelPalette(const QStyleOption &option, const QBrush &brush)
+{
+    QPalette palette = option.palette;
+    if (!isEnabled(option)) {
+        palette.setCurrentColorGroup(QPalette::Disabled);
+    }
+    return paletteWith(palette, QPalette::ButtonText, brush);
 }
 
 int mnemonicFlags(const BaseStyle &style, const PaintRequest &request)

@@ -28,6 +28,9 @@ void polishCommandLink(BaseStyle &style, QWidget &widget);
 /// theme's text colour where none was chosen.
 QBrush labelBrush(const QBrush &foreground, bool enabled);
 
+/// Returns the palette by which the label of \a option is drawn in \a brush.
+QPalette labelPalette(const QStyleOption &option, const QBrush &brush);
+
 /// Returns how texts with mnemonics are to be drawn.
 int mnemonicFlags(const BaseStyle &style, const PaintRequest &request);
 

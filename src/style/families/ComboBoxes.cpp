@@ -201,30 +201,20 @@ bool isPlaceholder(const ComboBoxRequest &comboBox)
     return widget && widget->currentIndex() < 0;
 }
 
-/// Returns the text as far as there is room for it. Measuring takes long, and hardly a glyph is
-/// wider than a line is high.
-QString fittingText(const QStyleOptionComboBox &option, int width)
-{
-    const QFontMetrics &metrics = option.fontMetrics;
-    const bool surelyFits = qint64(option.currentText.size()) * metrics.height() <= width;
-    return surelyFits ? option.currentText
-                      : metrics.elidedText(option.currentText, Qt::ElideRight, width);
-}
-
 void drawLabelText(const ComboBoxRequest &comboBox, const QRect &rect)
 {
     const QStyleOptionComboBox &option = comboBox.option;
     const bool enabled = isEnabled(option);
-    QPalette palette = option.palette;
-    if (!isPlaceholder(comboBox)) {
-        palette.setBrush(enabled ? palette.currentColorGroup() : QPalette::Disabled,
-                         QPalette::ButtonText, themeBrush(BrushName::ForegroundBrush, enabled));
-    }
+    const QPalette palette =
+        isPlaceholder(comboBox)
+            ? option.palette
+            : Buttons::labelPalette(option, themeBrush(BrushName::ForegroundBrush, enabled));
     const Qt::Alignment side =
         QStyle::visualAlignment(option.direction, Qt::AlignLeft | Qt::AlignVCenter);
-    comboBox.style.proxy()->drawItemText(comboBox.request.painter, rect, int(side), palette,
-                                         enabled, fittingText(option, rect.width()),
-                                         QPalette::ButtonText);
+    comboBox.style.proxy()->drawItemText(
+        comboBox.request.painter, rect, int(side), palette, enabled,
+        elidedText(option.fontMetrics, option.currentText, Qt::ElideRight, rect.width()),
+        QPalette::ButtonText);
 }
 
 /// Draws icon and text, of which the text of a combo box that can be edited is the editor's.

@@ -65,6 +65,27 @@ void drawOutline(QPainter &painter, const QRect &rect, const QBrush &border)
     drawShape(painter, outline, radius, outlinePen(border), Qt::NoBrush);
 }
 
+/// Has \a draw paint inside of \a region only.
+template <typename Draw>
+void drawClipped(QPainter &painter, const QRegion &region, Draw draw)
+{
+    // Rectangles that are scaled need not meet any more.
+    if (painter.deviceTransform().type() > QTransform::TxTranslate) {
+        painter.save();
+        painter.setClipRegion(region, Qt::IntersectClip);
+        draw();
+        painter.restore();
+        return;
+    }
+    // Preparing to clip by anything but a rectangle takes ten times as long as painting.
+    for (const QRect &rect : region) {
+        painter.save();
+        painter.setClipRect(rect, Qt::IntersectClip);
+        draw();
+        painter.restore();
+    }
+}
+
 } // namespace
 
 QRect subControlRect(const BaseStyle &style, const SubControlRequest &request)
@@ -90,10 +111,8 @@ bool drawFrame(const BaseStyle &style, const PaintRequest &request)
         draw(painter, option.rect, border);
         return true;
     }
-    painter.save();
-    painter.setClipRegion(QRegion(option.rect) - title, Qt::IntersectClip);
-    draw(painter, option.rect, border);
-    painter.restore();
+    const QRegion region = QRegion(option.rect) - title;
+    drawClipped(painter, region, [&] { draw(painter, option.rect, border); });
     return true;
 }
 

@@ -163,8 +163,8 @@ void drawStepButton(const BaseStyle &style, const PaintRequest &request,
         drawFace(option, button, face, buttonBrush(interaction, BrushField::Background, enabled),
                  *request.painter);
     }
-    indicator.palette.setBrush(indicator.palette.currentColorGroup(), QPalette::ButtonText,
-                               buttonBrush(interaction, BrushField::Foreground, enabled));
+    indicator.palette = paletteWith(indicator.palette, QPalette::ButtonText,
+                                    buttonBrush(interaction, BrushField::Foreground, enabled));
     const bool hasSign = option.buttonSymbols == QAbstractSpinBox::PlusMinus;
     indicator.rect = hasSign ? signRect(face) : arrowRect(button, face);
     // Arrows have a straight edge on the pixels, and two whose steps are even.

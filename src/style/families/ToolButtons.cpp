@@ -136,7 +136,7 @@ void drawLabelText(const BaseStyle &style, const PaintRequest &request,
 {
     const int flags = Buttons::mnemonicFlags(style, request);
     const QString text =
-        button.fontMetrics.elidedText(button.text, Qt::ElideMiddle, rect.width(), flags);
+        elidedText(button.fontMetrics, button.text, Qt::ElideMiddle, rect.width(), flags);
     const QFont font = request.painter->font();
     request.painter->setFont(button.font);
     style.proxy()->drawItemText(request.painter, rect, alignment | flags, button.palette,
@@ -197,7 +197,7 @@ bool drawToolButton(const BaseStyle &style, const PaintRequest &request)
         proxy.pixelMetric(QStyle::PM_DefaultFrameWidth, request.option, request.widget);
     face.rect.adjust(frame, frame, -frame, -frame);
     if (showsMenuArrow(*button, request.widget)) {
-        QStyleOptionToolButton arrow = face;
+        QStyleOption arrow = face;
         const int width = Buttons::menuColumnWidth(style, request);
         arrow.rect = Buttons::menuColumn(face.rect, width, face.direction);
         face.rect = Buttons::besideMenuColumn(face.rect, width, face.direction);

@@ -208,6 +208,17 @@ void FramePaintTest::groupBoxLeavesTitleFree()
     for (int x = free.left(); x <= free.right(); ++x) {
         QCOMPARE(picture.pixelColor(x, frame.rect.top()), QColor(Qt::black));
     }
+    // Beside the title, the frame is the one of a group box without any.
+    const QImage whole = m_recorder.picture(QStyle::PE_FrameGroupBox, frame, nullptr, size);
+    constexpr int titleMargin = 3;
+    const QRect room = free.adjusted(-titleMargin, 0, titleMargin, 0);
+    for (int y = 0; y < size.height(); ++y) {
+        for (int x = 0; x < size.width(); ++x) {
+            const QColor expected =
+                room.contains(x, y) ? QColor(Qt::black) : whole.pixelColor(x, y);
+            QCOMPARE(picture.pixelColor(x, y), expected);
+        }
+    }
     // The line goes on at the far side.
     const int beyond = direction == Qt::LeftToRight ? free.right() + 8 : free.left() - 8;
     QCOMPARE(nameAt(picture, beyond, frame.rect.top()), text("CardBorderBrush"));
