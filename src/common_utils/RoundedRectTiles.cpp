@@ -62,8 +62,8 @@ struct Tile
     void completeStraightCorners(const TileKey &key);
 
     QImage picture;
-    QColor edge; ///< of the outline where it is straight
-    QColor fill;
+    QBrush edge; ///< of the outline where it is straight
+    QBrush fill; ///< filling with a brush is faster than with a colour
 };
 
 Tile::Tile(const TileKey &key)
@@ -84,7 +84,7 @@ Tile::Tile(const TileKey &key)
     drawOutline(QRectF(picture.rect()).adjusted(inset, inset, -inset, -inset), key.radius,
                 Helpers::StraightCornerFlags(key.straightCorners), painter);
     painter.end();
-    edge = picture.pixelColor(key.width / 2, 0);
+    edge = QBrush(picture.pixelColor(key.width / 2, 0));
     if (!key.isFilled) {
         completeStraightCorners(key);
     }
@@ -213,9 +213,9 @@ public:
 private:
     TileKey key(Helpers::StraightCornerFlags straightCorners) const;
     void drawCorners(const QImage &picture) const;
-    void drawEdges(const QColor &color) const;
-    void fillInside(const QColor &color) const;
-    void fill(int left, int top, int width, int height, const QColor &color) const;
+    void drawEdges(const QBrush &brush) const;
+    void fillInside(const QBrush &brush) const;
+    void fill(int left, int top, int width, int height, const QBrush &brush) const;
     void copy(const QPoint &to, const QImage &picture, const QRect &from) const;
     QRectF toPainter(const QRectF &device) const;
 
@@ -266,7 +266,7 @@ void TiledShape::draw(Helpers::StraightCornerFlags straightCorners)
     if (m_rim > 0) {
         drawEdges(tile->edge);
     }
-    if (tile->fill.alpha() > 0) {
+    if (tile->fill.color().alpha() > 0) {
         fillInside(tile->fill);
     }
     m_painter.setRenderHint(QPainter::Antialiasing, antialiased);
@@ -291,46 +291,46 @@ void TiledShape::drawCorners(const QImage &picture) const
     }
 }
 
-void TiledShape::drawEdges(const QColor &color) const
+void TiledShape::drawEdges(const QBrush &brush) const
 {
     const int bottom = m_rect.height() - m_rim;
     const int right = m_rect.width() - m_rim;
     if (m_stretched) {
         const int length = m_rect.width() - 2 * m_corner;
-        fill(m_corner, 0, length, m_rim, color);
-        fill(m_corner, bottom, length, m_rim, color);
+        fill(m_corner, 0, length, m_rim, brush);
+        fill(m_corner, bottom, length, m_rim, brush);
     }
     if (m_tall) {
         const int length = m_rect.height() - 2 * m_corner;
-        fill(0, m_corner, m_rim, length, color);
-        fill(right, m_corner, m_rim, length, color);
+        fill(0, m_corner, m_rim, length, brush);
+        fill(right, m_corner, m_rim, length, brush);
     }
 }
 
-void TiledShape::fillInside(const QColor &color) const
+void TiledShape::fillInside(const QBrush &brush) const
 {
     const int innerWidth = m_rect.width() - 2 * m_rim;
     if (!m_tall) {
         if (m_stretched) {
             fill(m_corner, m_rim, m_rect.width() - 2 * m_corner, m_rect.height() - 2 * m_rim,
-                 color);
+                 brush);
         }
         return;
     }
     if (m_stretched) {
         const int length = m_rect.width() - 2 * m_corner;
         const int rest = m_corner - m_rim;
-        fill(m_corner, m_rim, length, rest, color);
-        fill(m_corner, m_rect.height() - m_corner, length, rest, color);
+        fill(m_corner, m_rim, length, rest, brush);
+        fill(m_corner, m_rect.height() - m_corner, length, rest, brush);
     }
-    fill(m_rim, m_corner, innerWidth, m_rect.height() - 2 * m_corner, color);
+    fill(m_rim, m_corner, innerWidth, m_rect.height() - 2 * m_corner, brush);
 }
 
-void TiledShape::fill(int left, int top, int width, int height, const QColor &color) const
+void TiledShape::fill(int left, int top, int width, int height, const QBrush &brush) const
 {
     if (width > 0 && height > 0) {
         m_painter.fillRect(toPainter(QRect(m_rect.x() + left, m_rect.y() + top, width, height)),
-                           color);
+                           brush);
     }
 }
 
