@@ -13,7 +13,7 @@ namespace TARN {
 namespace {
 
 /// There is one focus at a time, and it moves between the widgets of a window.
-constexpr int keptBytes = 128 * 1024;
+constexpr int keptBytes = 32 * 1024;
 
 /// How wide and high an outline may be together. To prepare a larger one would take tens of
 /// megabytes, and it is rare that a whole window has the focus.

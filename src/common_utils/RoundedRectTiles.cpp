@@ -22,6 +22,9 @@ constexpr int tileBytes = 2 * 1024 * 1024;
 /// fewer pieces are to be drawn then.
 constexpr int highestWholeTile = 96;
 
+/// Shapes of up to that many pixels, as small buttons and marks are, are kept whole.
+constexpr int largestWholeArea = 1280;
+
 /// A larger radius is rare, and its corners would be no less work than its outline.
 constexpr qreal largestRadius = 64;
 
@@ -201,6 +204,12 @@ std::optional<Placement> placeFill(const QRectF &rect, const QTransform &transfo
     return Placement{nearestPixels(outer), 1, true};
 }
 
+bool isSmall(const QSize &size)
+{
+    return size.height() <= highestWholeTile &&
+           qint64(size.width()) * size.height() <= largestWholeArea;
+}
+
 /// A shape in device pixels, and how it is put together.
 class TiledShape
 {
@@ -238,7 +247,7 @@ TiledShape::TiledShape(const Placement &placement, qreal radius, QPainter &paint
     , m_isFilled(placement.isFilled)
     , m_radius(qMin(radius * m_scale, (qMin(m_rect.width(), m_rect.height()) - m_rim) / 2.0))
     , m_corner(int(std::ceil(m_radius + m_rim / 2.0)))
-    , m_stretched(m_rect.width() > 2 * m_corner)
+    , m_stretched(m_rect.width() > 2 * m_corner && !isSmall(m_rect.size()))
     , m_tall(m_rect.height() > qMax(highestWholeTile, 2 * m_corner))
 {
 }
