@@ -195,7 +195,7 @@ bool drawHandle(const BaseStyle & /*style*/, const PaintRequest &request)
     const QRect &rect = option->rect;
     const int thickness = option->orientation == Qt::Horizontal ? rect.height() : rect.width();
     // Rounded to whole pixels, the long edges of the handle stay sharp.
-    const int margin = int(handleMargin * thickness + 0.5);
+    const int margin = qRound(handleMargin * thickness);
     const int radius = (thickness - 2 * margin + 1) / 2;
     drawShape(*request.painter, QRectF(rect.adjusted(margin, margin, -margin, -margin)), radius,
               Qt::NoPen, handleBrush(*option, request.widget));

@@ -245,7 +245,7 @@ void ToolButtonLabelPaintTest::arrowElements_data()
     QTest::newRow("down") << Qt::DownArrow << QStringList{text("PE_IndicatorArrowDown")};
     QTest::newRow("left") << Qt::LeftArrow << QStringList{text("PE_IndicatorArrowLeft")};
     QTest::newRow("right") << Qt::RightArrow << QStringList{text("PE_IndicatorArrowRight")};
-    QTest::newRow("unknown") << Qt::ArrowType(17) << QStringList();
+    QTest::newRow("unknown") << Qt::ArrowType(7) << QStringList();
 }
 
 void ToolButtonLabelPaintTest::arrowElements()
