@@ -128,7 +128,7 @@ OutlinePictures keptPictures(const OutlineKey &key)
     if (const OutlinePictures *pictures = kept.object(key)) {
         return *pictures;
     }
-    const OutlinePictures pictures(key);
+    OutlinePictures pictures(key);
     kept.insert(key, new OutlinePictures(pictures), pictures.bytes());
     return pictures;
 }

@@ -1,11 +1,9 @@
 #include "style/ItemText.h"
 
-#include "resources/ProcessCache.h"
+#include "style/KeptTexts.h"
 
-#include <QtCore/QCache>
 #include <QtGui/QFontMetrics>
 #include <QtGui/QGlyphRun>
-#include <QtGui/QGuiApplication>
 #include <QtGui/QPainter>
 #include <QtGui/QTextLayout>
 #include <QtWidgets/QStyle>
@@ -160,40 +158,16 @@ QRectF inkOf(const QTextLayout &layout)
     return ink;
 }
 
-using KeptTexts = QCache<ItemTextSetting, std::shared_ptr<const ItemText>>;
-
 // A text of a few words takes some two kilobytes with its glyphs: all of them, at most four
 // megabytes. It is more texts than a large screen shows.
 constexpr int keptTextsCost = 2048;
 constexpr int charactersPerCost = 32;
 
-KeptTexts &keptTexts()
-{
-    using Texts = ProcessCached<std::unique_ptr<KeptTexts>>;
-    // Fonts are not to be taken down after the application, so the texts are left to the end of
-    // the process.
-    static auto *texts = [] {
-        auto *kept = new Texts([] { return std::make_unique<KeptTexts>(keptTextsCost); });
-        // Glyphs are numbers within a font, and the same font may now be another one.
-        QObject::connect(qGuiApp, &QGuiApplication::fontDatabaseChanged, qGuiApp,
-                         [kept] { kept->value()->clear(); });
-        return kept;
-    }();
-    return *texts->value();
-}
-
 } // namespace
 
 std::shared_ptr<const ItemText> ItemText::of(const ItemTextSetting &setting)
 {
-    KeptTexts &texts = keptTexts();
-    if (const auto *kept = texts.object(setting)) {
-        return *kept;
-    }
-    auto text = std::make_shared<const ItemText>(setting);
-    const int cost = 1 + setting.text.size() / charactersPerCost;
-    texts.insert(setting, new std::shared_ptr<const ItemText>(text), cost);
-    return text;
+    return keptText<ItemText, keptTextsCost>(setting, 1 + setting.text.size() / charactersPerCost);
 }
 
 ItemText::ItemText(const ItemTextSetting &setting)

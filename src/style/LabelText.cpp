@@ -1,10 +1,8 @@
 #include "style/LabelText.h"
 
-#include "resources/ProcessCache.h"
+#include "style/KeptTexts.h"
 #include "style/MnemonicText.h"
 
-#include <QtCore/QCache>
-#include <QtGui/QGuiApplication>
 #include <QtGui/QPainter>
 #include <QtGui/QTextLayout>
 #include <QtWidgets/QStyle>
@@ -111,34 +109,6 @@ constexpr int keptLineCount = 512;
 /// What is longer is no label, and there will not be many like it.
 constexpr int longestText = 256;
 
-using KeptLines = QCache<LineKey, std::shared_ptr<const Line>>;
-
-KeptLines &keptLines()
-{
-    using Lines = ProcessCached<std::unique_ptr<KeptLines>>;
-    // Fonts are not to be taken down after the application, so the lines are left to the end of
-    // the process.
-    static auto *lines = [] {
-        auto *kept = new Lines([] { return std::make_unique<KeptLines>(keptLineCount); });
-        // Glyphs are numbers within a font, and the same font may now be another one.
-        QObject::connect(qGuiApp, &QGuiApplication::fontDatabaseChanged, qGuiApp,
-                         [kept] { kept->value()->clear(); });
-        return kept;
-    }();
-    return *lines->value();
-}
-
-std::shared_ptr<const Line> keptLine(const LineKey &key)
-{
-    KeptLines &lines = keptLines();
-    if (const auto *kept = lines.object(key)) {
-        return *kept;
-    }
-    auto line = std::make_shared<const Line>(key);
-    lines.insert(key, new std::shared_ptr<const Line>(line));
-    return line;
-}
-
 /// Tells whether every character is one that stands in a line. White space at the ends is not drawn
 /// where it would be expected in all alignments.
 bool isPlainLine(const QString &text)
@@ -181,8 +151,8 @@ bool drawLabelText(QPainter &painter, const QRect &rect, int flags, const QStrin
         return false;
     }
     const Qt::LayoutDirection direction = painter.layoutDirection();
-    const std::shared_ptr<const Line> line = keptLine(
-        {text, painter.font(), painter.device()->logicalDpiY(), direction, mnemonicOf(flags)});
+    const auto line = keptText<Line, keptLineCount>(LineKey{
+        text, painter.font(), painter.device()->logicalDpiY(), direction, mnemonicOf(flags)});
     const Qt::Alignment alignment = QStyle::visualAlignment(direction, Qt::Alignment(flags));
     const QRectF room(rect);
     if ((flags & Qt::TextDontClip) != 0 || room.contains(boundsOf(line->size(), room, alignment))) {
