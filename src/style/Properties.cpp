@@ -47,6 +47,14 @@ private:
     std::array<Entry, entryCount> m_entries;
 };
 
+/// Returns the index of a property that the class declares; -1 when it does not.
+int indexOf(const QMetaObject &metaObject, const char *property)
+{
+    static ClassAnswers<int> indices;
+    return indices.answer(&metaObject, property,
+                          [&] { return metaObject.indexOfProperty(property); });
+}
+
 bool isSetOn(const QObject &object, const char *property)
 {
     const QList<QByteArray> names = object.dynamicPropertyNames();
@@ -61,14 +69,20 @@ QVariant propertyOf(const QObject *object, const char *property)
     if (!object) {
         return {};
     }
-    static ClassAnswers<int> indices;
     const QMetaObject *metaObject = object->metaObject();
-    const int index =
-        indices.answer(metaObject, property, [&] { return metaObject->indexOfProperty(property); });
+    const int index = indexOf(*metaObject, property);
     if (index >= 0) {
         return metaObject->property(index).read(object);
     }
     return isSetOn(*object, property) ? object->property(property) : QVariant();
+}
+
+bool isSet(const QObject *object, const char *property)
+{
+    // Most properties are asked for in vain, which is not to cost even an empty value.
+    const bool exists =
+        object && (indexOf(*object->metaObject(), property) >= 0 || isSetOn(*object, property));
+    return exists && propertyOf(object, property).toBool();
 }
 
 bool isA(const QObject *object, const char *className)

@@ -12,11 +12,7 @@ namespace TARN {
 QVariant propertyOf(const QObject *object, const char *property);
 
 /// Tells whether \a object exists and its \a property is true.
-inline bool isSet(const QObject *object, const char *property)
-{
-    const QVariant value = propertyOf(object, property);
-    return value.isValid() && value.toBool();
-}
+bool isSet(const QObject *object, const char *property);
 
 /// Tells whether \a object exists and is of the class \a className or one derived from it.
 bool isA(const QObject *object, const char *className);
