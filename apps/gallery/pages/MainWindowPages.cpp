@@ -8,6 +8,7 @@
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QDockWidget>
 #include <QtWidgets/QLabel>
+#include <QtWidgets/QLayout>
 #include <QtWidgets/QListWidget>
 #include <QtWidgets/QMainWindow>
 #include <QtWidgets/QMenu>
@@ -21,6 +22,7 @@ namespace TARN::Gallery {
 namespace {
 
 constexpr QSize ViewSize(720, 480);
+constexpr int DockMargin = 8;
 
 struct ToolAction
 {
@@ -114,6 +116,7 @@ QWidget *docks()
     window->addDockWidget(Qt::LeftDockWidgetArea, dock("Images"_s, imageList(), window));
     auto *sliders = form(
         {{"&Gain:"_s, new QSlider(Qt::Horizontal)}, {"&Offset:"_s, new QSlider(Qt::Horizontal)}});
+    sliders->layout()->setContentsMargins(DockMargin, DockMargin, DockMargin, DockMargin);
     QDockWidget *fixed = dock("Camera (cannot be moved)"_s, sliders, window);
     fixed->setFeatures(QDockWidget::NoDockWidgetFeatures);
     window->addDockWidget(Qt::BottomDockWidgetArea, fixed);

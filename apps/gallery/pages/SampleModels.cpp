@@ -118,7 +118,9 @@ QStandardItemModel *projectModel(QObject *parent)
                   "In progress"_s);
     QStandardItem *archived = sampleItem("Weld seam 11"_s, {});
     addProjectRow(model, archived, "Archived"_s);
-    disable(archived);
+    for (int column = 0; column < model->columnCount(); ++column) {
+        disable(model->item(archived->row(), column));
+    }
     addProjectRow(model, new QStandardItem(symbol("file.text"_s), "Report.pdf"_s), "Draft"_s);
     return model;
 }

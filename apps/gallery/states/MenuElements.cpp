@@ -12,9 +12,11 @@ namespace {
 using Condition = ElementCondition;
 using MenuItem = QStyleOptionMenuItem;
 
-constexpr QSize entrySize(130, 28);
+/// Wide enough for the fonts of all themes.
+constexpr int menuWidth = 160;
+constexpr QSize entrySize(menuWidth, 28);
 constexpr int iconRoom = 20;
-constexpr int shortcutRoom = 40;
+constexpr int shortcutRoom = 56;
 
 /// Returns the maker of the options of an entry.
 OptionMaker entry(const std::function<void(MenuItem &)> &prepare = {})
@@ -72,15 +74,15 @@ OptionMaker plainSeparator()
 QVector<ElementSample> menuParts()
 {
     const auto menu = making<QMenu>();
-    const QSize thin(130, 10);
+    const QSize thin(menuWidth, 10);
     return {
-        {QStyle::PE_PanelMenu, "Panel", restingStates(), menu, plain(), QSize(130, 40)},
+        {QStyle::PE_PanelMenu, "Panel", restingStates(), menu, plain(), QSize(menuWidth, 40)},
         {QStyle::PE_FrameMenu, "Frame", restingStates(), menu, plain<QStyleOptionFrame>(),
-         QSize(130, 40)},
+         QSize(menuWidth, 40)},
         {QStyle::PE_IndicatorMenuCheckMark, "Check mark", passiveStates(), menu, entry(),
          QSize(20, 20)},
         {QStyle::CE_MenuScroller, "Scroller", passiveStates(), menu, entryOf(MenuItem::Scroller),
-         QSize(130, 16)},
+         QSize(menuWidth, 16)},
         {QStyle::CE_MenuTearoff, "Tear-off line", passiveStates(), menu, entryOf(MenuItem::TearOff),
          thin},
         {QStyle::CE_MenuVMargin, "Margin above", restingStates(), menu, entryOf(MenuItem::Margin),
@@ -105,9 +107,9 @@ QVector<ElementSample> menuBarParts()
          }),
          QSize(40, 28)},
         {QStyle::CE_MenuBarEmptyArea, "Rest of a bar", passiveStates(), bar,
-         entryOf(MenuItem::EmptyArea), QSize(130, 28)},
+         entryOf(MenuItem::EmptyArea), QSize(menuWidth, 28)},
         {QStyle::PE_PanelMenuBar, "Panel of a bar", restingStates(), bar,
-         plain<QStyleOptionFrame>(), QSize(130, 28)},
+         plain<QStyleOptionFrame>(), QSize(menuWidth, 28)},
     };
 }
 
@@ -134,7 +136,7 @@ ElementFamily menuFamily()
                  with("_q_isComboBoxPopupItem", menu), checkableEntry(MenuItem::Exclusive, true),
                  entrySize},
                 {QStyle::CE_MenuItem, "Separator", restingStates(), menu, plainSeparator(),
-                 QSize(130, 8)},
+                 QSize(menuWidth, 8)},
                 {QStyle::CE_MenuItem, "Separator with title", restingStates(), menu,
                  titledSection(), entrySize},
             } + menuParts() +

@@ -21,6 +21,9 @@ constexpr QSize lyingSize(100, 24);
 constexpr QSize standingSize(24, 76);
 constexpr QSize barSize(100, 16);
 constexpr QSize standingBarSize(16, 76);
+/// What the style makes of minimized ones.
+constexpr QSize thinBarSize(100, 5);
+constexpr QSize standingThinBarSize(5, 76);
 constexpr QSize lineButtonSize(16, 16);
 constexpr int value = 40;
 
@@ -64,8 +67,10 @@ WidgetMaker scrollBar(Qt::Orientation orientation = Qt::Horizontal)
 /// Returns the horizontal scroll bar of a scroll area.
 QWidget *inScrollArea()
 {
-    // One that does not set its scroll bars by its contents.
+    // One that does not set its scroll bars by its contents. The bar becomes as long as the area.
     auto *area = new QAbstractScrollArea;
+    const int frame = 2 * area->frameWidth();
+    area->resize(barSize + QSize(frame, frame + barSize.width()));
     QScrollBar *bar = area->horizontalScrollBar();
     bar->setRange(0, 100);
     bar->setValue(value);
@@ -145,14 +150,14 @@ ElementFamily scrollBarFamily()
                 {QStyle::CC_ScrollBar, "In a scroll area", hoverableStates(), inScrollArea, handle,
                  barSize},
                 {QStyle::CC_ScrollBar, "Minimized", hoverableStates(),
-                 scrollBar<MinimizedScrollBar>(), handle, barSize},
+                 scrollBar<MinimizedScrollBar>(), handle, thinBarSize},
                 {QStyle::CC_ScrollBar, "Vertical", hoverableStates(), standing, handle,
                  standingBarSize},
                 {QStyle::CC_ScrollBar, "Vertical, minimized", hoverableStates(),
-                 scrollBar<MinimizedScrollBar>(Qt::Vertical), handle, standingBarSize},
+                 scrollBar<MinimizedScrollBar>(Qt::Vertical), handle, standingThinBarSize},
                 {QStyle::CE_ScrollBarSlider, "Handle", hoverableStates(), lying, handle, barSize},
                 {QStyle::CE_ScrollBarSlider, "Handle, minimized", hoverableStates(),
-                 scrollBar<MinimizedScrollBar>(), handle, barSize},
+                 scrollBar<MinimizedScrollBar>(), handle, thinBarSize},
                 {QStyle::CE_ScrollBarAddLine, "Next line", hoverableStates(), standing, next,
                  lineButtonSize},
                 {QStyle::CE_ScrollBarSubLine, "Previous line", hoverableStates(), standing,

@@ -103,6 +103,8 @@ OptionMaker headerOption(Header::SortIndicator sorting, QStyle::State state)
     return describing<QHeaderView, Header>([=](Header &option) {
         option.section = 0;
         option.text = sampleText;
+        option.textAlignment =
+            static_cast<const QHeaderView *>(option.styleObject)->defaultAlignment();
         option.position = Header::Middle;
         option.sortIndicator = sorting;
         option.state |= state;

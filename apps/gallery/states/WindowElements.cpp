@@ -34,6 +34,9 @@ OptionMaker titleBarOption(Qt::WindowStates state)
         option.text = sampleText;
         option.icon = symbol("action.save"_s);
         option.titleBarState = int(state);
+        if (state.testFlag(Qt::WindowActive)) {
+            option.titleBarState |= QStyle::State_Active;
+        }
         option.titleBarFlags = Qt::SubWindow | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                                Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint;
         option.subControls = QStyle::SC_All;
