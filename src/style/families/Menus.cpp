@@ -10,6 +10,7 @@
 
 #include <QtGui/QPainter>
 #include <QtWidgets/QComboBox>
+#include <QtWidgets/QMenu>
 #include <QtWidgets/qdrawutil.h>
 
 namespace TARN::Menus {
@@ -21,6 +22,8 @@ namespace {
 constexpr int edge = 5;
 constexpr int arrowExtent = 12;
 constexpr int shortcutGap = 12;
+/// The menu measures its shortcuts in whole pixels, which a text may exceed by part of one.
+constexpr int shortcutExcess = 1;
 constexpr int endOfText = 2 * edge;
 constexpr int endOfTextWithArrow = arrowExtent + 2 * edge - 2;
 
@@ -30,6 +33,11 @@ constexpr int frameDarkness = 160;
 bool isSurfaceEnabled(const PaintRequest &request)
 {
     return request.widget ? request.widget->isEnabled() : isEnabled(*request.option);
+}
+
+QColor outlineColor(const QStyleOption &option)
+{
+    return option.palette.color(QPalette::Window).darker(frameDarkness);
 }
 
 bool areMnemonicsShown(const BaseStyle &style, const PaintRequest &request)
@@ -56,6 +64,7 @@ private:
 
     const QBrush &textBrush() const;
     QBrush iconBrush() const;
+    QIcon::Mode iconMode() const;
     QRect visual(const QRect &rect) const;
     QRect column(int left, int width) const;
     int markExtent() const;
@@ -64,6 +73,7 @@ private:
     int textColumn() const;
 
     void drawSurface() const;
+    void drawOutline() const;
     void drawSeparator() const;
     int drawSectionTitle() const;
     void drawMark() const;
@@ -100,8 +110,10 @@ void EntryPainter::paint() const
     drawSurface();
     if (isSeparator()) {
         drawSeparator();
+        drawOutline();
         return;
     }
+    drawOutline();
     if (isMarked()) {
         drawMark();
     }
@@ -156,6 +168,15 @@ QBrush EntryPainter::iconBrush() const
     return brush.style() == Qt::NoBrush ? textBrush() : brush;
 }
 
+/// Icons that take no tint may have a picture of their own to be seen on the highlight.
+QIcon::Mode EntryPainter::iconMode() const
+{
+    if (!isEnabled(m_option)) {
+        return QIcon::Disabled;
+    }
+    return m_isHighlighted ? QIcon::Selected : QIcon::Normal;
+}
+
 QRect EntryPainter::visual(const QRect &rect) const
 {
     return QStyle::visualRect(m_option.direction, m_option.rect, rect);
@@ -202,6 +223,28 @@ void EntryPainter::drawSurface() const
         m_painter.fillRect(m_option.rect, themeBrush(BrushName::BackgroundSubLevel1Brush,
                                                      isSurfaceEnabled(m_request)));
     }
+}
+
+/// Draws what the entry covers of the outline of its menu: the entries reach to the edge, and
+/// without it a menu could not be told from the one below.
+void EntryPainter::drawOutline() const
+{
+    const auto *menu = qobject_cast<const QMenu *>(m_widget);
+    if (!menu) {
+        return;
+    }
+    const QRect outer = menu->rect();
+    const QRect covered = outer & m_option.rect;
+    const QBrush brush(outlineColor(m_option));
+    const auto draw = [&](Qt::Edge side, bool isReached) {
+        if (isReached) {
+            fillEdge(m_painter, covered, side, brush);
+        }
+    };
+    draw(Qt::LeftEdge, covered.left() == outer.left());
+    draw(Qt::RightEdge, covered.right() == outer.right());
+    draw(Qt::TopEdge, covered.top() == outer.top());
+    draw(Qt::BottomEdge, covered.bottom() == outer.bottom());
 }
 
 /// Draws a line across the entry, after its title if it has one.
@@ -251,8 +294,7 @@ void EntryPainter::drawIcon() const
                             column(iconColumn(), qMax(m_option.maxIconWidth, size.width())));
     TARN::drawIcon(m_painter, rect,
                    ThemeColorHelper::getModifiedIconWithForegroundBrush(m_option.icon, iconBrush()),
-                   isEnabled(m_option) ? QIcon::Normal : QIcon::Disabled,
-                   isChecked() ? QIcon::On : QIcon::Off);
+                   iconMode(), isChecked() ? QIcon::On : QIcon::Off);
 }
 
 /// Draws the label and, in a column of its own, the shortcut.
@@ -265,8 +307,8 @@ void EntryPainter::drawTexts() const
                rect.height());
     const int tab = m_option.text.indexOf(QLatin1Char('\t'));
     if (tab >= 0) {
-        const QRect shortcut(room.right() + 1 - m_option.tabWidth, room.top(), m_option.tabWidth,
-                             room.height());
+        const QRect shortcut(room.right() + 1 - m_option.tabWidth, room.top(),
+                             m_option.tabWidth + shortcutExcess, room.height());
         drawText(m_option.text.mid(tab + 1), m_option.font, shortcut, Mnemonic::None);
         room.setRight(shortcut.left() - shortcutGap);
     }
@@ -338,8 +380,7 @@ bool drawPanel(const BaseStyle & /*style*/, const PaintRequest &request)
     }
     request.painter->fillRect(
         option.rect, themeBrush(BrushName::BackgroundSubLevel1Brush, isSurfaceEnabled(request)));
-    qDrawPlainRect(request.painter, option.rect,
-                   option.palette.color(QPalette::Window).darker(frameDarkness));
+    qDrawPlainRect(request.painter, option.rect, outlineColor(option));
     return true;
 }
 

@@ -227,6 +227,88 @@ private Q_SLOTS:
         QVERIFY(m_theme.nameAt(entry, itemRect.topLeft() - QPoint(1, 1)).isEmpty());
     }
 
+    /// No tint makes a picture of many colours stand out from the highlight.
+    void highlightedIconMayHaveItsOwnPicture()
+    {
+        const QMenu menu;
+        QStyleOptionMenuItem option = itemOption(QString());
+        option.maxIconWidth = 20;
+        option.icon = squareIcon(Qt::blue);
+        QPixmap ofHighlight(16, 16);
+        ofHighlight.fill(Qt::green);
+        option.icon.addPixmap(ofHighlight, QIcon::Selected);
+        QCOMPARE(rectOf(picture(option, &menu), Qt::blue).size(), QSize(16, 16));
+        option.state |= QStyle::State_Selected;
+        QCOMPARE(rectOf(picture(option, &menu), Qt::green).size(), QSize(16, 16));
+    }
+
+    /// The entries reach to the edge of their menu, and would hide its outline.
+    void outline_data()
+    {
+        QTest::addColumn<int>("state");
+        QTest::addColumn<int>("type");
+        const int enabled = QStyle::State_Enabled;
+        QTest::newRow("rest") << enabled << int(QStyleOptionMenuItem::Normal);
+        QTest::newRow("highlighted")
+            << (enabled | QStyle::State_Selected) << int(QStyleOptionMenuItem::Normal);
+        QTest::newRow("disabled") << 0 << int(QStyleOptionMenuItem::Normal);
+        QTest::newRow("separator") << enabled << int(QStyleOptionMenuItem::Separator);
+    }
+
+    void outline()
+    {
+        QFETCH(int, state);
+        QFETCH(int, type);
+        const QColor window(200, 100, 50);
+        const QColor line(window.darker(160).rgb());
+        QMenu menu;
+        menu.resize(pictureSize);
+        QStyleOptionMenuItem option = itemOption(QString(), QStyle::State(state));
+        option.menuItemType = QStyleOptionMenuItem::MenuItemType(type);
+        option.palette.setBrush(QPalette::Window, window);
+        const QRect whole(QPoint(), pictureSize);
+        const QRect middle(0, 10, whole.width(), 20);
+        for (const QRect &rect : {whole, middle}) {
+            option.rect = rect;
+            const QImage entry = picture(option, &menu);
+            QRegion lines;
+            for (int y = 0; y < entry.height(); ++y) {
+                for (int x = 0; x < entry.width(); ++x) {
+                    if (entry.pixelColor(x, y) == line) {
+                        lines += QRect(x, y, 1, 1);
+                    }
+                }
+            }
+            // Regions are compared by how they are cut into rectangles.
+            const QRegion expected = QRegion(rect) - whole.adjusted(1, 1, -1, -1);
+            QVERIFY(lines.xored(expected).isEmpty());
+        }
+        option.rect = itemRect;
+        QVERIFY(rectOf(picture(option, &menu), line).isNull());
+    }
+
+    /// A menu measures its shortcuts in whole pixels, and rounds some of them down.
+    void shortcutsAreWhole()
+    {
+        constexpr int more = 20;
+        int roundedDown = 0;
+        for (const char *const key : {"Ctrl+Shift+Z", "Alt+Down", "Ctrl+F", "Shift+Ins", "F11"}) {
+            for (int size = 8; size < 24; ++size) {
+                const QString shortcut = QString::fromLatin1(key);
+                QStyleOptionMenuItem option = itemOption(text("\t") + shortcut);
+                option.font.setPixelSize(size);
+                option.tabWidth = QFontMetrics(option.font).horizontalAdvance(shortcut);
+                const qreal exact = QFontMetricsF(option.font).horizontalAdvance(shortcut);
+                roundedDown += int(exact > option.tabWidth);
+                const QImage tight = picture(option);
+                option.tabWidth += more;
+                option.rect.setWidth(itemRect.width() + more);
+                QCOMPARE(tight, picture(option));
+            }
+        }
+        QVERIFY(roundedDown > 0);
+    }
+
     void foregrounds_data()
     {
         QTest::addColumn<int>("state");
