@@ -177,17 +177,17 @@ QPen textPen(const BaseStyle &style, const PaintRequest &request, const QStyleOp
     const int state = style.getTabBackgroundState(tab);
     const bool enabled = isEnabled(tab);
     if (state == selectedTab && isCurrentTabHighlighted(request.widget)) {
-        return QPen(themeColor(ColorName::MainUpLevel1Color, enabled));
+        return {themeColor(ColorName::MainUpLevel1Color, enabled)};
     }
     if (!enabled) {
         // The brush is that of faint text already; its disabled twin would be hard to read.
-        return QPen(themeBrush(BrushName::ForegroundDisabledBrush, true), 1);
+        return {themeBrush(BrushName::ForegroundDisabledBrush, true), 1};
     }
     if (state == hoveredTab) {
-        return QPen(themeBrush(BrushName::TabForegroundMouseOverBrush, true), 1);
+        return {themeBrush(BrushName::TabForegroundMouseOverBrush, true), 1};
     }
     // The palette holds the colour that the application gave this very tab.
-    return QPen(tab.palette.brush(QPalette::WindowText), 1);
+    return {tab.palette.brush(QPalette::WindowText), 1};
 }
 
 /// Returns the rectangle of the label of \a tab, laid out horizontally, before it is turned.
@@ -218,6 +218,28 @@ int buttonExtent(const QStyleOptionTab &tab, const QSize &button)
     return labelSpacing + (isVertical(tab.shape) ? button.height() : button.width());
 }
 
+/// Tells whether the right button stands where the label of the mirrored tab begins: it keeps to
+/// the right end of its tab in either direction, but the common layout leaves it room at the left.
+bool isRightButtonAtStart(const QStyleOptionTab &tab)
+{
+    return isRightToLeft(tab) &&
+           (tab.shape == QTabBar::RoundedNorth || tab.shape == QTabBar::RoundedSouth);
+}
+
+/// The extents along the bar that the buttons take before and after the label.
+struct ButtonRoom
+{
+    int atStart;
+    int atEnd;
+};
+
+ButtonRoom buttonRoom(const QStyleOptionTab &tab)
+{
+    const int left = buttonExtent(tab, tab.leftButtonSize);
+    const int right = buttonExtent(tab, tab.rightButtonSize);
+    return isRightButtonAtStart(tab) ? ButtonRoom{left + right, 0} : ButtonRoom{left, right};
+}
+
 QIcon::Mode iconMode(const QStyleOptionTab &tab)
 {
     return isEnabled(tab) ? QIcon::Normal : QIcon::Disabled;
@@ -236,9 +258,17 @@ QRect iconRect(const BaseStyle &style, const PaintRequest &request, const QStyle
     const QSize size = tab.icon.actualSize(room, iconMode(tab), iconState(tab)).boundedTo(room);
     const QRect label = uprightRect(tab);
     const int left = label.left() + metric(style, QStyle::PM_TabBarTabHSpace, request) / 2 +
-                     buttonExtent(tab, tab.leftButtonSize) + (room.width() - size.width()) / 2;
+                     buttonRoom(tab).atStart + (room.width() - size.width()) / 2;
     const QRect rect(QPoint(left, label.center().y() - size.height() / 2), size);
     return isVertical(tab.shape) ? rect : QStyle::visualRect(tab.direction, label, rect);
+}
+
+QRect textRect(const BaseStyle &style, const PaintRequest &request, const QStyleOptionTab &tab)
+{
+    const QRect rect =
+        style.proxy()->subElementRect(QStyle::SE_TabBarTabText, &tab, request.widget);
+    return isRightButtonAtStart(tab) ? rect.translated(-buttonExtent(tab, tab.rightButtonSize), 0)
+                                     : rect;
 }
 
 /// Returns how the text of a tab is aligned and whether its mnemonic is underlined.
@@ -274,8 +304,9 @@ void makeRoom(Label &label, const BaseStyle &style, const PaintRequest &request,
     const int missing = qMax(0, width - label.text.width());
     const int padding =
         qMax(0, metric(style, QStyle::PM_TabBarTabHSpace, request) / 2 - boldTextMargin);
-    const bool isStartFree = tab.leftButtonSize.isEmpty();
-    const bool isEndFree = tab.rightButtonSize.isEmpty();
+    const ButtonRoom buttons = buttonRoom(tab);
+    const bool isStartFree = buttons.atStart == 0;
+    const bool isEndFree = buttons.atEnd == 0;
     const int atStart = isStartFree ? qMin(isEndFree ? (missing + 1) / 2 : missing, padding) : 0;
     const int atEnd = isEndFree ? qMin(missing - atStart, padding) : 0;
     const bool isMirrored = !isVertical(tab.shape) && isRightToLeft(tab);
@@ -300,15 +331,24 @@ bool layOutBold(Label &label, const BaseStyle &style, const PaintRequest &reques
     return true;
 }
 
+/// Returns the font of a label: the painter's, unless that is the one that every painter begins
+/// with. The toolkit gives no other to the painter of a tab that is being moved.
+QFont labelFont(const QFont &font, const QWidget *tabBar)
+{
+    return tabBar && font == QGuiApplication::font() ? tabBar->font() : font;
+}
+
 /// Draws the label with the pen of the painter.
 void drawLabel(const BaseStyle &style, const PaintRequest &request, const QStyleOptionTab &tab)
 {
     QPainter &painter = *request.painter;
     const bool isBold =
         style.getTabBackgroundState(tab) == selectedTab && !isCurrentTabHighlighted(request.widget);
-    const QFont font = painter.font();
+    const QFont former = painter.font();
+    const QFont font = labelFont(former, request.widget);
+    painter.setFont(font);
     Label label{tab.icon.isNull() ? QRect() : iconRect(style, request, tab),
-                style.proxy()->subElementRect(QStyle::SE_TabBarTabText, &tab, request.widget)};
+                textRect(style, request, tab)};
     if (isBold) {
         QFont bold = font;
         bold.setBold(true);
@@ -324,7 +364,7 @@ void drawLabel(const BaseStyle &style, const PaintRequest &request, const QStyle
     }
     style.proxy()->drawItemText(&painter, label.text, textFlags(style, request, tab), tab.palette,
                                 isEnabled(tab), tab.text);
-    painter.setFont(font);
+    painter.setFont(former);
 }
 
 /// Returns what the tabs hide of the outline of the page. A stretched bar goes on behind its last

@@ -101,6 +101,7 @@ public:
         m_flags = flags;
         m_text = text;
         m_isBold = painter->font().bold();
+        m_pixelSize = painter->font().pixelSize();
     }
 
     /// Draws the label; returns whether the painter has the same font and transform afterwards.
@@ -119,6 +120,7 @@ public:
     mutable int m_flags = 0;
     mutable QString m_text;
     mutable bool m_isBold = false;
+    mutable int m_pixelSize = 0;
 };
 
 } // namespace
@@ -134,6 +136,9 @@ private Q_SLOTS:
     void iconHasTheColorOfTheText();
     void iconStandsBeforeTheText_data();
     void iconStandsBeforeTheText();
+    void labelKeepsOffTheRightButton_data();
+    void labelKeepsOffTheRightButton();
+    void fontOfTheBar();
     void boldText_data();
     void boldText();
     void boldTextOfTheApplication();
@@ -232,6 +237,73 @@ void TabLabelPaintTest::iconStandsBeforeTheText()
              4);
 }
 
+void TabLabelPaintTest::labelKeepsOffTheRightButton_data()
+{
+    QTest::addColumn<QTabBar::Shape>("shape");
+    QTest::addColumn<Qt::LayoutDirection>("direction");
+    const QPair<const char *, QTabBar::Shape> shapes[] = {
+        {"north", QTabBar::RoundedNorth},
+        {"south", QTabBar::RoundedSouth},
+        {"triangular north", QTabBar::TriangularNorth},
+        {"triangular south", QTabBar::TriangularSouth},
+    };
+    for (const auto &[name, shape] : shapes) {
+        QTest::newRow(name) << shape << Qt::LeftToRight;
+        QTest::addRow("%s, mirrored", name) << shape << Qt::RightToLeft;
+    }
+}
+
+/// Wherever the style places the button, neither the icon nor the text lies below it or leaves the
+/// tab.
+void TabLabelPaintTest::labelKeepsOffTheRightButton()
+{
+    QFETCH(QTabBar::Shape, shape);
+    QFETCH(Qt::LayoutDirection, direction);
+    const PaintTheme theme;
+    const TextRecorder recorder;
+    QStyleOptionTab option = tabOption(QStyle::State_Enabled, shape);
+    // The toolkit places buttons as if all tabs began at the top of their bar.
+    option.rect.moveTop(0);
+    option.direction = direction;
+    option.icon = plainIcon();
+    option.iconSize = QSize(16, 16);
+    option.rightButtonSize = QSize(20, 18);
+    QVERIFY(recorder.draw(option, nullptr));
+    CallRecorder painting;
+    option.text.clear();
+    const QImage picture = painting.picture(QStyle::CE_TabBarTabLabel, option, nullptr, canvas);
+    const QRect icon = extentOf(picture, paletteText);
+    const QRect button = recorder.subElementRect(QStyle::SE_TabBarTabRightButton, &option, nullptr);
+    QCOMPARE(icon.size(), QSize(16, 16));
+    QVERIFY(option.rect.contains(icon));
+    QVERIFY(recorder.m_rect.left() >= option.rect.left());
+    QVERIFY(recorder.m_rect.right() <= option.rect.right());
+    QVERIFY(!button.intersects(icon));
+    QVERIFY(!button.intersects(recorder.m_rect));
+    QVERIFY(!icon.intersects(recorder.m_rect));
+}
+
+/// A painter that was not made for the bar knows no font, as that of a tab which is being moved.
+void TabLabelPaintTest::fontOfTheBar()
+{
+    const PaintTheme theme;
+    const TextRecorder recorder;
+    QTabBar bar;
+    QFont font = bar.font();
+    font.setPixelSize(27);
+    bar.setFont(font);
+    QVERIFY(recorder.draw(tabOption(QStyle::State_Enabled), &bar));
+    QCOMPARE(recorder.m_pixelSize, 27);
+
+    QImage picture(canvas, QImage::Format_RGB32);
+    QPainter painter(&picture);
+    font.setPixelSize(19);
+    painter.setFont(font);
+    const QStyleOptionTab option = tabOption(QStyle::State_Enabled);
+    recorder.drawControl(QStyle::CE_TabBarTabLabel, &option, &painter, &bar);
+    QCOMPARE(recorder.m_pixelSize, 19);
+}
+
 void TabLabelPaintTest::boldText_data()
 {
     QTest::addColumn<QStyle::State>("state");
@@ -276,12 +348,14 @@ void TabLabelPaintTest::boldTextFindsRoom_data()
     QTest::addColumn<QSize>("leftButton");
     QTest::addColumn<QSize>("rightButton");
     QTest::addColumn<int>("padding");
+    QTest::addColumn<int>("mirroredPadding");
     const QSize button(16, 16);
     // Of the 12 pixels of padding at either side, 3 stay free; 2 more the text has anyway.
-    QTest::newRow("no buttons") << QSize() << QSize() << 2 + 18;
-    QTest::newRow("right button") << QSize() << button << 2 + 9;
-    QTest::newRow("left button") << button << QSize() << 2 + 9;
-    QTest::newRow("two buttons") << button << button << 2;
+    QTest::newRow("no buttons") << QSize() << QSize() << 2 + 18 << 2 + 18;
+    QTest::newRow("right button") << QSize() << button << 2 + 9 << 2 + 9;
+    QTest::newRow("left button") << button << QSize() << 2 + 9 << 2 + 9;
+    // In a mirrored tab both stand before the text.
+    QTest::newRow("two buttons") << button << button << 2 << 2 + 9;
 }
 
 /// Bold text is wider than the toolkit makes its tab. It takes the padding, as far as there is any;
@@ -291,6 +365,7 @@ void TabLabelPaintTest::boldTextFindsRoom()
     QFETCH(QSize, leftButton);
     QFETCH(QSize, rightButton);
     QFETCH(int, padding);
+    QFETCH(int, mirroredPadding);
     const PaintTheme theme;
     const TextRecorder recorder;
     QStyleOptionTab option = tabOption(QStyle::State_Enabled | QStyle::State_Selected);
@@ -308,22 +383,23 @@ void TabLabelPaintTest::boldTextFindsRoom()
     for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft}) {
         option.direction = direction;
         const int rest = 24 + buttonWidth(leftButton) + buttonWidth(rightButton);
-        option.rect.setWidth(width - padding + rest);
+        const bool isMirrored = direction == Qt::RightToLeft;
+        option.rect.setWidth(width - (isMirrored ? mirroredPadding : padding) + rest);
         QVERIFY(recorder.draw(option, nullptr));
         QVERIFY(recorder.m_isBold);
         QCOMPARE(recorder.m_rect.width(), width);
-        const bool isMirrored = direction == Qt::RightToLeft;
-        const QSize atLeft = isMirrored ? rightButton : leftButton;
-        const QSize atRight = isMirrored ? leftButton : rightButton;
-        QVERIFY(recorder.m_rect.left() >= option.rect.left() + 3 + buttonWidth(atLeft));
-        QVERIFY(recorder.m_rect.right() <= option.rect.right() - 1 - buttonWidth(atRight));
+        const int atLeft = isMirrored ? 0 : buttonWidth(leftButton);
+        const int atRight = buttonWidth(rightButton) + (isMirrored ? buttonWidth(leftButton) : 0);
+        QVERIFY(recorder.m_rect.left() >= option.rect.left() + 3 + atLeft);
+        QVERIFY(recorder.m_rect.right() <= option.rect.right() - 1 - atRight);
 
         option.rect.setWidth(option.rect.width() - 1);
         QVERIFY(recorder.draw(option, nullptr));
         QVERIFY(!recorder.m_isBold);
         QCOMPARE(recorder.m_text, option.text);
         QCOMPARE(recorder.m_rect,
-                 recorder.subElementRect(QStyle::SE_TabBarTabText, &option, nullptr));
+                 recorder.subElementRect(QStyle::SE_TabBarTabText, &option, nullptr)
+                     .translated(isMirrored ? -buttonWidth(rightButton) : 0, 0));
     }
 }
 
