@@ -12,6 +12,8 @@
 #include <QtGui/QPainterPath>
 #include <QtGui/QWindow>
 
+#include <cmath>
+
 namespace TARN::CheckBoxes {
 
 namespace {
@@ -57,15 +59,16 @@ const QBrush &markBrush(const QStyleOption &option)
 void drawBox(const PaintRequest &request, int radius)
 {
     const QStyleOption &option = *request.option;
-    const QRectF rect = onHalfPixel(option.rect);
-    const QPen pen = outlinePen(borderBrush(request));
-    drawShape(*request.painter, rect, radius, pen,
-              themeBrush(BrushName::ControlBackgroundBrush, isEnabled(option)));
-    if (has(option, QStyle::State_Sunken)) {
-        // A pressed one has the outline of one at rest, and is told from it by a second one.
-        drawShape(*request.painter, rect.adjusted(1, 1, -1, -1), qMax(0, radius - 1), pen,
-                  Qt::NoBrush);
+    QPen pen = outlinePen(borderBrush(request));
+    // A pressed one has the outline of one at rest, twice as thick. Two outlines beside each other
+    // would leave a gap at some scales.
+    const bool isPressed = has(option, QStyle::State_Sunken);
+    const qreal inset = isPressed ? 1.0 : 0.5;
+    if (isPressed) {
+        pen.setWidth(2);
     }
+    drawShape(*request.painter, QRectF(option.rect).adjusted(inset, inset, -inset, -inset), radius,
+              pen, themeBrush(BrushName::ControlBackgroundBrush, isEnabled(option)));
 }
 
 /// Returns the radius at which a shape over \a rect has no straight edge along its shorter side.
@@ -113,6 +116,20 @@ qreal knobOffset(const QStyleOption &option, qreal trackWidth, qreal endDistance
     return has(option, QStyle::State_On) ? trackWidth - endDistance : endDistance;
 }
 
+/// Returns \a square on as many whole pixels of the device in width as in height, so that a round
+/// shape in it is round.
+QRectF squareOnPixels(const QPainter &painter, const QRectF &square)
+{
+    const QTransform &transform = painter.deviceTransform();
+    if (transform.type() != QTransform::TxScale || transform.m11() <= 0 || transform.m22() <= 0) {
+        return square;
+    }
+    const QRectF onDevice = transform.mapRect(square);
+    const QSizeF size(std::round(onDevice.width()), std::round(onDevice.height()));
+    const QPointF corner(std::round(onDevice.left()), std::round(onDevice.top()));
+    return transform.inverted().mapRect(QRectF(corner, size));
+}
+
 QRectF knobRect(const BaseStyle &style, const PaintRequest &request, const QRectF &track)
 {
     const QStyleOption &option = *request.option;
@@ -137,7 +154,7 @@ void drawSwitch(const BaseStyle &style, const PaintRequest &request)
     drawShape(*request.painter, track, trackRadius, outlinePen(borderBrush(request)),
               isOn ? themeBrush(BrushName::MainBrush, enabled)
                    : themeBrush(BrushName::ControlBackgroundBrush, enabled));
-    const QRectF knob = knobRect(style, request, track);
+    const QRectF knob = squareOnPixels(*request.painter, knobRect(style, request, track));
     drawShape(*request.painter, knob, roundRadius(knob), Qt::NoPen,
               isOn ? themeBrush(BrushName::SwitchForegroundCheckedEllipseBrush, enabled)
                    : themeBrush(BrushName::SwitchEllipseBrush, enabled));

@@ -221,7 +221,8 @@ void drawTick(const Look &look, const QRect &strip, int position, const QBrush &
     const QRect tick = look.isHorizontal
                            ? QRect(strip.left() + position, strip.top(), 1, strip.height())
                            : QRect(strip.left(), strip.top() + position, strip.width(), 1);
-    look.request.painter->fillRect(tick & strip, brush);
+    fillEdge(*look.request.painter, tick & strip, look.isHorizontal ? Qt::LeftEdge : Qt::TopEdge,
+             brush);
 }
 
 /// Draws the ticks of one side.

@@ -2,6 +2,7 @@
 #include "style/painting/PaintTheme.h"
 #include "style/painting/SliderSample.h"
 
+#include <QtGui/QPainter>
 #include <QtTest/QtTest>
 #include <QtWidgets/QSlider>
 
@@ -42,6 +43,7 @@ private Q_SLOTS:
     void ticksStayCountable_data();
     void ticksStayCountable();
     void disabledTicks();
+    void scaledTicksAreCrisp();
 };
 
 void SliderTickPaintTest::ticks_data()
@@ -199,6 +201,35 @@ void SliderTickPaintTest::disabledTicks()
     option.tickPosition = QSlider::TicksBothSides;
     const QImage picture = recorder.picture(QStyle::CC_Slider, option, nullptr, canvas);
     QCOMPARE(theme.namesIn(picture), QStringList{text("InputForegroundBrushDisabled")});
+}
+
+/// The corners of the groove below them are antialiased; the ticks are not.
+void SliderTickPaintTest::scaledTicksAreCrisp()
+{
+    const PaintTheme theme(PaintTheme::Radii{0, 2, 0, 0});
+    const TARN::BaseStyle style;
+    QStyleOptionSlider option = sliderOption(Qt::Horizontal);
+    option.subControls = QStyle::SC_SliderGroove | QStyle::SC_SliderTickmarks;
+    option.tickPosition = QSlider::TicksAbove;
+    option.tickInterval = 10;
+    const QColor ground(Qt::black);
+    for (const qreal scale : {1.25, 1.5, 1.75}) {
+        QImage picture(canvas * 2, QImage::Format_RGB32);
+        picture.fill(ground);
+        picture.setDevicePixelRatio(scale);
+        QPainter painter(&picture);
+        style.drawComplexControl(QStyle::CC_Slider, &option, &painter, nullptr);
+        painter.end();
+        int tickPixels = 0;
+        for (int y = 0; y < int(8 * scale); ++y) {
+            for (int x = 0; x < picture.width(); ++x) {
+                const bool isTick = theme.nameAt(picture, {x, y}) == text("InputForegroundBrush");
+                QVERIFY(isTick || picture.pixelColor(x, y) == ground);
+                tickPixels += int(isTick);
+            }
+        }
+        QVERIFY(tickPixels >= 11);
+    }
 }
 
 QTEST_MAIN(SliderTickPaintTest)
