@@ -1,5 +1,5 @@
-#include "style/IconTheme.h"
 #include "style/painting/CallRecorder.h"
+#include "style/painting/MenuSample.h"
 #include "style/painting/PaintTheme.h"
 
 #include <QtGui/QPainter>
@@ -8,106 +8,6 @@
 #include <QtWidgets/QMenu>
 
 #include <support/Text.h>
-
-namespace {
-
-constexpr QSize pictureSize(220, 40);
-constexpr QRect itemRect(10, 8, 200, 25);
-constexpr QPoint corner = QPoint(11, 9);
-
-// None of them is a colour of the theme.
-const QColor textColor(0x03, 0x90, 0x05);
-const QColor highlightedTextColor(0x93, 0x05, 0x07);
-const QColor disabledTextColor(0x73, 0x75, 0x77);
-const QColor lineColor(0x09, 0x05, 0x97);
-
-/// A text that fills whole pixels.
-QString bar(int length = 1)
-{
-    return QString(length, QChar(0x2588));
-}
-
-QStyleOptionMenuItem itemOption(const QString &string, QStyle::State state = QStyle::State_Enabled)
-{
-    QStyleOptionMenuItem option;
-    option.rect = itemRect;
-    option.state = state;
-    option.text = string;
-    option.font = QFont(text("DejaVu Sans"), 9);
-    option.fontMetrics = QFontMetrics(option.font);
-    option.palette.setBrush(QPalette::Text, textColor);
-    option.palette.setBrush(QPalette::HighlightedText, highlightedTextColor);
-    option.palette.setBrush(QPalette::Disabled, QPalette::Text, disabledTextColor);
-    option.palette.setBrush(QPalette::Midlight, lineColor);
-    option.palette.setBrush(QPalette::Disabled, QPalette::Midlight, lineColor);
-    return option;
-}
-
-QIcon squareIcon(const QColor &color = referenceForeground)
-{
-    QPixmap pixmap(16, 16);
-    pixmap.fill(color);
-    return QIcon(pixmap);
-}
-
-/// Returns the rectangle around all pixels of \a color.
-QRect rectOf(const QImage &picture, const QColor &color)
-{
-    QRect rect;
-    for (int y = 0; y < picture.height(); ++y) {
-        for (int x = 0; x < picture.width(); ++x) {
-            if (picture.pixelColor(x, y) == color) {
-                rect |= QRect(x, y, 1, 1);
-            }
-        }
-    }
-    return rect;
-}
-
-/// Returns the rectangle around all pixels in which the pictures differ.
-QRect differenceOf(const QImage &a, const QImage &b)
-{
-    QRect rect;
-    for (int y = 0; y < a.height(); ++y) {
-        for (int x = 0; x < a.width(); ++x) {
-            if (a.pixel(x, y) != b.pixel(x, y)) {
-                rect |= QRect(x, y, 1, 1);
-            }
-        }
-    }
-    return rect;
-}
-
-QRect mirrored(const QRect &rect)
-{
-    return QStyle::visualRect(Qt::RightToLeft, itemRect, rect);
-}
-
-/// Underlines shortcuts or not, as it is told.
-class Underlining : public QProxyStyle
-{
-public:
-    explicit Underlining(bool underlines)
-        : QProxyStyle(new TARN::BaseStyle)
-        , m_underlines(underlines)
-    {
-    }
-
-    int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
-                  QStyleHintReturn *returnData) const override
-    {
-        return hint == SH_UnderlineShortcut
-                   ? int(m_underlines)
-                   : QProxyStyle::styleHint(hint, option, widget, returnData);
-    }
-
-private:
-    bool m_underlines;
-};
-
-} // namespace
-
-Q_DECLARE_METATYPE(QStyleOptionMenuItem::MenuItemType)
 
 /// Menus and their entries.
 class MenuPaintTest : public QObject
@@ -121,53 +21,6 @@ private:
     QImage picture(const QStyleOptionMenuItem &option, const QWidget *widget = nullptr)
     {
         return m_recorder.picture(QStyle::CE_MenuItem, option, widget, pictureSize);
-    }
-
-    QImage picture(const QStyleOptionMenuItem &option, const QSize &size)
-    {
-        return m_recorder.picture(QStyle::CE_MenuItem, option, nullptr, size);
-    }
-
-    /// With more room the label looks the same: it is not elided.
-    void checkLabelIsWhole(QStyleOptionMenuItem option, const QSize &size)
-    {
-        constexpr int more = 50;
-        const QSize ample = size + QSize(more, 0);
-        option.text = option.text.section(QLatin1Char('\t'), 0, 0);
-        const QImage narrow = picture(option, ample);
-        option.rect.setWidth(size.width() + more);
-        QCOMPARE(narrow, picture(option, ample));
-    }
-
-    /// Nothing lies on anything else, and all of it inside of the entry.
-    void checkPartsAreApart(QStyleOptionMenuItem option, const QSize &size,
-                            const QStringList &texts, bool hasIcon)
-    {
-        option.text.clear();
-        const QImage empty = picture(option, size);
-        QVector<QRect> parts;
-        for (const QString &string : texts) {
-            QStyleOptionMenuItem withText(option);
-            withText.text = string;
-            parts.append(differenceOf(picture(withText, size), empty));
-            QCOMPARE(parts.last().isNull(), string.isEmpty());
-        }
-        QStyleOptionMenuItem withIcon(option);
-        withIcon.icon = hasIcon ? squareIcon(Qt::blue) : QIcon();
-        parts.append(differenceOf(picture(withIcon, size), empty));
-        QCOMPARE(parts.last().isNull(), !hasIcon);
-        QStyleOptionMenuItem withMark(option);
-        withMark.checked = true;
-        parts.append(differenceOf(picture(withMark, size), empty));
-        QCOMPARE(parts.last().isNull(), !option.menuHasCheckableItems);
-        parts.append(m_recorder.call("PE_IndicatorArrowRight").rect);
-
-        QRegion marked;
-        for (const QRect &part : parts) {
-            QVERIFY(part.isNull() || option.rect.contains(part));
-            QVERIFY(!marked.intersects(part));
-            marked += part;
-        }
     }
 
 private Q_SLOTS:
@@ -287,32 +140,10 @@ private Q_SLOTS:
         QVERIFY(rectOf(picture(option, &menu), line).isNull());
     }
 
-    /// A menu measures its shortcuts in whole pixels, and rounds some of them down.
-    void shortcutsAreWhole()
-    {
-        constexpr int more = 20;
-        int roundedDown = 0;
-        for (const char *const key : {"Ctrl+Shift+Z", "Alt+Down", "Ctrl+F", "Shift+Ins", "F11"}) {
-            for (int size = 8; size < 24; ++size) {
-                const QString shortcut = QString::fromLatin1(key);
-                QStyleOptionMenuItem option = itemOption(text("\t") + shortcut);
-                option.font.setPixelSize(size);
-                option.tabWidth = QFontMetrics(option.font).horizontalAdvance(shortcut);
-                const qreal exact = QFontMetricsF(option.font).horizontalAdvance(shortcut);
-                roundedDown += int(exact > option.tabWidth);
-                const QImage tight = picture(option);
-                option.tabWidth += more;
-                option.rect.setWidth(itemRect.width() + more);
-                QCOMPARE(tight, picture(option));
-            }
-        }
-        QVERIFY(roundedDown > 0);
-    }
-
     void foregrounds_data()
     {
         QTest::addColumn<int>("state");
-        QTest::addColumn<QColor>("textColor");
+        QTest::addColumn<QColor>("expectedColor");
         QTest::addColumn<QColor>("iconColor");
         const int enabled = QStyle::State_Enabled;
         const int selected = QStyle::State_Selected;
@@ -327,12 +158,12 @@ private Q_SLOTS:
     void foregrounds()
     {
         QFETCH(int, state);
-        QFETCH(QColor, textColor);
+        QFETCH(QColor, expectedColor);
         QFETCH(QColor, iconColor);
         const QMenu menu;
         QStyleOptionMenuItem option = itemOption(bar() + text("\t") + bar(), QStyle::State(state));
         option.tabWidth = 40;
-        const QRect texts = rectOf(picture(option, &menu), textColor);
+        const QRect texts = rectOf(picture(option, &menu), expectedColor);
         QVERIFY(texts.left() < itemRect.left() + 40);
         QVERIFY(texts.right() > itemRect.right() - 60);
         option.text.clear();
@@ -344,9 +175,9 @@ private Q_SLOTS:
             QStyleOptionMenuItem checked = itemOption(QString(), QStyle::State(state));
             checked.menuHasCheckableItems = true;
             checked.checkType = checkType;
-            QVERIFY(rectOf(picture(checked, &menu), textColor).isNull());
+            QVERIFY(rectOf(picture(checked, &menu), expectedColor).isNull());
             checked.checked = true;
-            QVERIFY(!rectOf(picture(checked, &menu), textColor).isNull());
+            QVERIFY(!rectOf(picture(checked, &menu), expectedColor).isNull());
         }
     }
 
@@ -433,55 +264,6 @@ private Q_SLOTS:
         QCOMPARE(int(arrow.state), state);
     }
 
-    /// Everything that an entry may consist of, in the room that the style asks for.
-    void contentsFit_data()
-    {
-        QTest::addColumn<bool>("hasIcon");
-        QTest::addColumn<bool>("isCheckable");
-        QTest::addColumn<bool>("hasShortcut");
-        QTest::addColumn<QStyleOptionMenuItem::MenuItemType>("type");
-        using Option = QStyleOptionMenuItem;
-        for (const bool hasIcon : {false, true}) {
-            for (const bool isCheckable : {false, true}) {
-                for (const bool hasShortcut : {false, true}) {
-                    for (const auto type : {Option::Normal, Option::DefaultItem, Option::SubMenu}) {
-                        QTest::addRow("%s%s%stype %d", hasIcon ? "icon, " : "",
-                                      isCheckable ? "check mark, " : "",
-                                      hasShortcut ? "shortcut, " : "", type)
-                            << hasIcon << isCheckable << hasShortcut << type;
-                    }
-                }
-            }
-        }
-    }
-
-    void contentsFit()
-    {
-        QFETCH(bool, hasIcon);
-        QFETCH(bool, isCheckable);
-        QFETCH(bool, hasShortcut);
-        QFETCH(QStyleOptionMenuItem::MenuItemType, type);
-        QStyleOptionMenuItem option = itemOption(text("The label of this entry"));
-        const int labelWidth = option.fontMetrics.horizontalAdvance(option.text);
-        option.menuItemType = type;
-        option.maxIconWidth = hasIcon ? 20 : 0;
-        option.menuHasCheckableItems = isCheckable;
-        option.checkType =
-            isCheckable ? QStyleOptionMenuItem::NonExclusive : QStyleOptionMenuItem::NotCheckable;
-        const QString shortcut = hasShortcut ? text("\tCtrl+Z") : QString();
-        option.tabWidth = option.fontMetrics.horizontalAdvance(shortcut.mid(1));
-        option.text += shortcut;
-        QSize size = m_recorder.sizeFromContents(QStyle::CT_MenuItem, &option,
-                                                 QSize(labelWidth, 16), nullptr);
-        size.rwidth() += option.tabWidth;
-        option.rect = QRect(QPoint(0, 0), size);
-        m_recorder.stopAt("PE_IndicatorArrowRight");
-
-        const QStringList labels = {text("The label of this entry"), shortcut};
-        checkLabelIsWhole(option, size);
-        checkPartsAreApart(option, size, labels, hasIcon);
-    }
-
     void rightToLeft()
     {
         QStyleOptionMenuItem option = itemOption(bar(2) + text("\t") + bar(2));
@@ -496,42 +278,6 @@ private Q_SLOTS:
         option.direction = Qt::LeftToRight;
         QCOMPARE(icon, mirrored(rectOf(picture(option), Qt::blue)));
         QVERIFY(icon.left() > itemRect.center().x());
-    }
-
-    void mnemonics_data()
-    {
-        QTest::addColumn<bool>("underlines");
-        QTest::newRow("underlined") << true;
-        QTest::newRow("hidden") << false;
-    }
-
-    void mnemonics()
-    {
-        QFETCH(bool, underlines);
-        const Underlining style(underlines);
-        const auto painted = [&](const char *label) {
-            QImage picture(pictureSize, QImage::Format_RGB32);
-            picture.fill(Qt::black);
-            QPainter painter(&picture);
-            const QStyleOptionMenuItem option = itemOption(text(label));
-            style.drawControl(QStyle::CE_MenuItem, &option, &painter);
-            return picture;
-        };
-        QCOMPARE(painted("&Undo") != painted("Undo"), underlines);
-        QCOMPARE(painted("Drag && drop").size(), pictureSize);
-        QVERIFY(painted("Drag && drop") != painted("Drag  drop"));
-    }
-
-    void defaultEntryIsBold()
-    {
-        QStyleOptionMenuItem option = itemOption(text("Open"));
-        const QImage normal = picture(option);
-        option.menuItemType = QStyleOptionMenuItem::DefaultItem;
-        const QImage bold = picture(option);
-        option.menuItemType = QStyleOptionMenuItem::Normal;
-        option.font.setBold(true);
-        QCOMPARE(bold, picture(option));
-        QVERIFY(bold != normal);
     }
 
     void comboBoxEntries_data()
