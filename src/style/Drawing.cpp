@@ -336,6 +336,13 @@ QString elidedText(const QFontMetrics &metrics, const QString &text, Qt::TextEli
     return texts->text(metrics, text, {mode, width, flags});
 }
 
+int mnemonicFlags(const BaseStyle &style, const PaintRequest &request)
+{
+    return style.proxy()->styleHint(QStyle::SH_UnderlineShortcut, request.option, request.widget)
+               ? Qt::TextShowMnemonic
+               : Qt::TextHideMnemonic;
+}
+
 void drawFocusRect(const BaseStyle &style, const PaintRequest &request, const QRect &rect)
 {
     QStyleOptionFocusRect option;

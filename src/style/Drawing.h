@@ -84,6 +84,9 @@ QPalette paletteWith(const QPalette &palette, QPalette::ColorRole role, const QB
 QString elidedText(const QFontMetrics &metrics, const QString &text, Qt::TextElideMode mode,
                    int width, int flags = 0);
 
+/// Returns how texts with mnemonics are to be drawn.
+int mnemonicFlags(const BaseStyle &style, const PaintRequest &request);
+
 /// Has the proxy of \a style mark \a rect as focused; whether that is seen is the primitive's
 /// matter.
 void drawFocusRect(const BaseStyle &style, const PaintRequest &request, const QRect &rect);

@@ -232,13 +232,6 @@ QPalette labelPalette(const QStyleOption &option, const QBrush &brush)
     return paletteWith(palette, QPalette::ButtonText, brush);
 }
 
-int mnemonicFlags(const BaseStyle &style, const PaintRequest &request)
-{
-    return style.proxy()->styleHint(QStyle::SH_UnderlineShortcut, request.option, request.widget)
-               ? Qt::TextShowMnemonic
-               : Qt::TextHideMnemonic;
-}
-
 int menuColumnWidth(const BaseStyle &style, const PaintRequest &request)
 {
     return style.proxy()->pixelMetric(QStyle::PM_MenuButtonIndicator, request.option,

@@ -31,9 +31,6 @@ QBrush labelBrush(const QBrush &foreground, bool enabled);
 /// Returns the palette by which the label of \a option is drawn in \a brush.
 QPalette labelPalette(const QStyleOption &option, const QBrush &brush);
 
-/// Returns how texts with mnemonics are to be drawn.
-int mnemonicFlags(const BaseStyle &style, const PaintRequest &request);
-
 /// Draws the focus inside of \a rect, unless the button has none; \a palette is the one that its
 /// label is drawn with.
 void drawFocus(const BaseStyle &style, const PaintRequest &request, const QPalette &palette,

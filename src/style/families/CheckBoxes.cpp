@@ -10,7 +10,6 @@
 #include <QtCore/QtMath>
 #include <QtGui/QPainter>
 #include <QtGui/QPainterPath>
-#include <QtGui/QWindow>
 
 #include <cmath>
 
@@ -173,20 +172,17 @@ bool drawParts(const BaseStyle &style, const PaintRequest &request, const Parts 
     part.rect = proxy.subElementRect(parts.contentsRect, option, request.widget);
     proxy.drawControl(parts.label, &part, request.painter, request.widget);
     if (has(*option, QStyle::State_HasFocus)) {
-        QStyleOptionFocusRect focus;
-        focus.QStyleOption::operator=(*option);
-        focus.rect = proxy.subElementRect(parts.focusRect, option, request.widget);
-        proxy.drawPrimitive(QStyle::PE_FrameFocusRect, &focus, request.painter, request.widget);
+        drawFocusRect(style, request,
+                      proxy.subElementRect(parts.focusRect, option, request.widget));
     }
     return true;
 }
 
-QPixmap iconPixmap(const QStyleOptionButton &option, const QWidget *widget)
+QPixmap labelPixmap(const QStyleOptionButton &option, const QWidget *widget)
 {
-    QWindow *window = widget ? widget->window()->windowHandle() : nullptr;
-    return option.icon.pixmap(window, option.iconSize,
-                              isEnabled(option) ? QIcon::Normal : QIcon::Disabled,
-                              has(option, QStyle::State_On) ? QIcon::On : QIcon::Off);
+    return iconPixmap(option.icon, option.iconSize,
+                      isEnabled(option) ? QIcon::Normal : QIcon::Disabled,
+                      has(option, QStyle::State_On) ? QIcon::On : QIcon::Off, widget);
 }
 
 } // namespace
@@ -262,18 +258,15 @@ bool drawLabel(const BaseStyle &style, const PaintRequest &request)
     QRect textRect = option->rect;
     if (!option->icon.isNull()) {
         proxy.drawItemPixmap(request.painter, option->rect, int(side),
-                             iconPixmap(*option, request.widget));
+                             labelPixmap(*option, request.widget));
         // The toolkit reserves this much beside the icon when it measures the label.
         constexpr int spacing = 4;
         const QRect logical = option->rect.adjusted(option->iconSize.width() + spacing, 0, 0, 0);
         textRect = QStyle::visualRect(option->direction, option->rect, logical);
     }
     if (!option->text.isEmpty()) {
-        const bool isUnderlined =
-            proxy.styleHint(QStyle::SH_UnderlineShortcut, option, request.widget) != 0;
-        const int flags = int(side) | (isUnderlined ? Qt::TextShowMnemonic : Qt::TextHideMnemonic);
-        proxy.drawItemText(request.painter, textRect, flags, option->palette, isEnabled(*option),
-                           option->text, QPalette::WindowText);
+        proxy.drawItemText(request.painter, textRect, int(side) | mnemonicFlags(style, request),
+                           option->palette, isEnabled(*option), option->text, QPalette::WindowText);
     }
     return true;
 }

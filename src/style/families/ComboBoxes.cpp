@@ -12,7 +12,6 @@
 #include "style/families/Inputs.h"
 
 #include <QtGui/QPainter>
-#include <QtGui/QWindow>
 #include <QtWidgets/QComboBox>
 
 namespace TARN::ComboBoxes {
@@ -109,10 +108,8 @@ void drawFocusRect(const ComboBoxRequest &comboBox)
 {
     // Midway between the outline and the text.
     constexpr int margin = 2;
-    QStyleOptionFocusRect focus;
-    focus.QStyleOption::operator=(comboBox.option);
-    focus.rect = comboBox.option.rect.adjusted(margin, margin, -margin, -margin);
-    comboBox.drawPrimitive(QStyle::PE_FrameFocusRect, focus);
+    TARN::drawFocusRect(comboBox.style, comboBox.request,
+                        comboBox.option.rect.adjusted(margin, margin, -margin, -margin));
 }
 
 void drawButton(const ComboBoxRequest &comboBox)
@@ -188,9 +185,9 @@ void drawLabelIcon(const ComboBoxRequest &comboBox, const QRect &rect)
     }
     const QIcon icon = ThemeColorHelper::getModifiedIconWithForegroundBrush(
         option.currentIcon, BaseStyle::buttonBrushes(&option, widget).foreground);
-    QWindow *window = widget ? widget->window()->windowHandle() : nullptr;
     const QPixmap pixmap =
-        icon.pixmap(window, option.iconSize, isEnabled(option) ? QIcon::Normal : QIcon::Disabled);
+        iconPixmap(icon, option.iconSize, isEnabled(option) ? QIcon::Normal : QIcon::Disabled,
+                   QIcon::Off, widget);
     comboBox.style.proxy()->drawItemPixmap(comboBox.request.painter, rect, Qt::AlignCenter, pixmap);
 }
 

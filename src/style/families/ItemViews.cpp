@@ -6,6 +6,7 @@
 #include "style/OptionState.h"
 #include "style/Properties.h"
 #include "style/catalogue/Names.h"
+#include "style/families/ToolBars.h"
 
 #include <QtGui/QPainter>
 #include <QtWidgets/QListView>
@@ -15,10 +16,7 @@ namespace TARN::ItemViews {
 namespace {
 
 constexpr int leastItemHeight = 26;
-constexpr int gripStep = 3;
-constexpr int gripLength = 7 * gripStep;
-constexpr int lightGripSize = 2;
-constexpr int darkGripSize = 1;
+constexpr int gripLength = 7 * ToolBars::gripStep;
 constexpr char cascadingList[] = "TARN::Components::CascadingListViewPanel";
 
 bool isList(const QWidget *widget)
@@ -278,8 +276,8 @@ bool drawColumnGrip(const BaseStyle &style, const PaintRequest &request)
     const QPoint center = rect.center();
     const int from = qMax(center.y() - gripLength / 2, rect.top());
     const int to = qMin(from + gripLength, rect.bottom());
-    style.drawGrips(*request.painter, Qt::Vertical, from, to, center.x(), gripStep, lightGripSize,
-                    darkGripSize);
+    style.drawGrips(*request.painter, Qt::Vertical, from, to, center.x(), ToolBars::gripStep,
+                    ToolBars::lightGrip, ToolBars::darkGrip);
     return true;
 }
 

@@ -40,12 +40,6 @@ QColor outlineColor(const QStyleOption &option)
     return option.palette.color(QPalette::Window).darker(frameDarkness);
 }
 
-bool areMnemonicsShown(const BaseStyle &style, const PaintRequest &request)
-{
-    return style.proxy()->styleHint(QStyle::SH_UnderlineShortcut, request.option, request.widget) !=
-           0;
-}
-
 /// Paints one entry of a menu. The columns for marks and icons are the same in all its entries.
 class EntryPainter
 {
@@ -317,7 +311,8 @@ void EntryPainter::drawTexts() const
         font.setBold(true);
     }
     drawText(m_option.text.left(tab), font, room,
-             areMnemonicsShown(m_style, m_request) ? Mnemonic::Underlined : Mnemonic::Hidden);
+             mnemonicFlags(m_style, m_request) == Qt::TextShowMnemonic ? Mnemonic::Underlined
+                                                                       : Mnemonic::Hidden);
 }
 
 void EntryPainter::drawText(const QString &text, const QFont &font, const QRect &logicalRoom,
@@ -354,8 +349,7 @@ void drawBarContents(const BaseStyle &style, const PaintRequest &request,
 {
     if (option.icon.isNull()) {
         const int flags =
-            Qt::AlignCenter | Qt::TextDontClip | Qt::TextSingleLine |
-            (areMnemonicsShown(style, request) ? Qt::TextShowMnemonic : Qt::TextHideMnemonic);
+            Qt::AlignCenter | Qt::TextDontClip | Qt::TextSingleLine | mnemonicFlags(style, request);
         style.proxy()->drawItemText(request.painter, option.rect, flags, option.palette,
                                     isEnabled(option), option.text, role);
         return;

@@ -274,9 +274,6 @@ QRect textRect(const BaseStyle &style, const PaintRequest &request, const QStyle
 /// Returns how the text of a tab is aligned and whether its mnemonic is underlined.
 int textFlags(const BaseStyle &style, const PaintRequest &request, const QStyleOptionTab &tab)
 {
-    const bool underlined =
-        style.proxy()->styleHint(QStyle::SH_UnderlineShortcut, &tab, request.widget) != 0;
-    const int mnemonic = Qt::TextShowMnemonic | (underlined ? 0 : Qt::TextHideMnemonic);
     Qt::Alignment alignment = Qt::AlignCenter;
     const QVariant chosen = propertyOf(request.widget, "textAlignment");
     if (chosen.isValid()) {
@@ -286,7 +283,8 @@ int textFlags(const BaseStyle &style, const PaintRequest &request, const QStyleO
         alignment |= alignment & Qt::AlignVertical_Mask ? Qt::Alignment() : Qt::AlignVCenter;
     }
     const auto direction = isVertical(tab.shape) ? Qt::LeftToRight : tab.direction;
-    return mnemonic | int(QStyle::visualAlignment(direction, alignment) | Qt::AlignAbsolute);
+    return mnemonicFlags(style, request) |
+           int(QStyle::visualAlignment(direction, alignment) | Qt::AlignAbsolute);
 }
 
 /// Where the parts of a label stand.

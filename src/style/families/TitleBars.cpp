@@ -19,8 +19,7 @@ constexpr QSize iconSize(16, 16);
 /// Returns the picture of \a icon for the screen on which \a widget is.
 QPixmap pictureOf(const QIcon &icon, const QWidget *widget, QIcon::Mode mode = QIcon::Normal)
 {
-    QWindow *window = widget ? widget->window()->windowHandle() : nullptr;
-    return icon.pixmap(window, iconSize, mode, QIcon::Off);
+    return iconPixmap(icon, iconSize, mode, QIcon::Off, widget);
 }
 
 } // namespace

@@ -134,7 +134,7 @@ bool showsOnlyText(const QStyleOptionToolButton &button)
 void drawLabelText(const BaseStyle &style, const PaintRequest &request,
                    const QStyleOptionToolButton &button, const QRect &rect, int alignment)
 {
-    const int flags = Buttons::mnemonicFlags(style, request);
+    const int flags = mnemonicFlags(style, request);
     const QString text =
         elidedText(button.fontMetrics, button.text, Qt::ElideMiddle, rect.width(), flags);
     const QFont font = request.painter->font();
