@@ -1,7 +1,7 @@
 #include "common_utils/TintedIconEngine.h"
 
 #include "common_utils/Helpers.h"
-#include "common_utils/IconTint.h"
+#include "common_utils/ReplacedColor.h"
 #include "common_utils/TintedIconCache.h"
 
 #include <QtCore/QDataStream>

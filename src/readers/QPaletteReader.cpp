@@ -1,6 +1,6 @@
 #include "readers/QPaletteReader.h"
 
-#include "readers/XmlFile.h"
+#include "readers/xml/XmlFile.h"
 
 #include <QtCore/QMetaEnum>
 #include <QtXml/QDomDocument>

@@ -4,10 +4,10 @@
 #include "readers/ElementText.h"
 #include "readers/LinearGradientBrushReader.h"
 #include "readers/SolidBrushReader.h"
-#include "readers/XmlFile.h"
+#include "readers/xml/XmlFile.h"
 #include "resources/ThemeColorHelper.h"
 #include "resources/ThemeResources.h"
-#include "resources/VariantMap.h"
+#include "resources/variables/VariantMap.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QStringBuilder>

@@ -1,9 +1,9 @@
 #include "resources/ThemeColorHelper.h"
 
 #include "common_utils/Helpers.h"
-#include "resources/ProcessCache.h"
 #include "resources/ThemeResources.h"
-#include "resources/VariablePath.h"
+#include "resources/kept/ProcessCache.h"
+#include "resources/variables/VariablePath.h"
 
 #include <array>
 

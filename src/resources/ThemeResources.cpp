@@ -1,10 +1,10 @@
 #include "resources/ThemeResources.h"
 
-#include "resources/LookUpObserver.h"
-#include "resources/ProcessCache.h"
-#include "resources/VariableGroup.h"
-#include "resources/VariableKeyIndex.h"
-#include "resources/VariablePath.h"
+#include "resources/kept/ProcessCache.h"
+#include "resources/variables/LookUpObserver.h"
+#include "resources/variables/VariableGroup.h"
+#include "resources/variables/VariableKeyIndex.h"
+#include "resources/variables/VariablePath.h"
 
 #include <QtCore/QCoreApplication>
 

@@ -2,10 +2,10 @@
 
 #include "readers/QPaletteReader.h"
 #include "readers/ThemeConfigurationReader.h"
-#include "readers/XmlFile.h"
-#include "resources/ProcessCache.h"
+#include "readers/xml/XmlFile.h"
 #include "resources/ThemeResources.h"
-#include "resources/VariantMap.h"
+#include "resources/kept/ProcessCache.h"
+#include "resources/variables/VariantMap.h"
 #include "theme/CleanSwitch.h"
 #include "theme/StyleInstallation.h"
 #include "theme/ThemeFootprint.h"

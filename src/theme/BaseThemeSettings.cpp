@@ -1,6 +1,6 @@
 #include "theme/BaseThemeSettings.h"
 
-#include "readers/XmlFile.h"
+#include "readers/xml/XmlFile.h"
 
 namespace TARN {
 

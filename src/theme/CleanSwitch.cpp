@@ -1,6 +1,6 @@
 #include "theme/CleanSwitch.h"
 
-#include "resources/ProcessCache.h"
+#include "resources/kept/ProcessCache.h"
 #include "theme/DocumentLinks.h"
 #include "theme/ThemeFootprint.h"
 

@@ -1,4 +1,4 @@
-#include <style/catalogue/Catalogue.h>
+#include <catalogue/Catalogue.h>
 #include <theme/BaseTheme.h>
 
 #include <QtCore/QHash>

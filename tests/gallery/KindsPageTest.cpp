@@ -1,5 +1,5 @@
+#include <catalogue/Catalogue.h>
 #include <resources/ThemeResources.h>
-#include <style/catalogue/Catalogue.h>
 #include <theme/BaseTheme.h>
 
 #include <QtCore/QRegularExpression>

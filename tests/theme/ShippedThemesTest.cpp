@@ -1,8 +1,8 @@
+#include <catalogue/Catalogue.h>
 #include <common_utils/Contrast.h>
 #include <readers/QPaletteReader.h>
 #include <readers/ThemeConfigurationReader.h>
 #include <resources/ThemeResources.h>
-#include <style/catalogue/Catalogue.h>
 #include <theme/BaseThemeSettings.h>
 #include <theme/Theme.h>
 #include <theme/ThemeFactory.h>

@@ -1,7 +1,7 @@
 #include "Reference.h"
 
-#include <style/catalogue/Catalogue.h>
-#include <style/catalogue/Words.h>
+#include <catalogue/Catalogue.h>
+#include <catalogue/Words.h>
 
 #include <QtCore/QMap>
 #include <QtCore/QStringList>

@@ -2,9 +2,9 @@
 
 #include "Literals.h"
 
+#include <catalogue/Words.h>
 #include <common_utils/Helpers.h>
 #include <resources/ThemeResources.h>
-#include <style/catalogue/Words.h>
 
 #include <QtGui/QPainter>
 

@@ -3,8 +3,8 @@
 #include "Literals.h"
 #include "Pages.h"
 
-#include <style/catalogue/Catalogue.h>
-#include <style/catalogue/Words.h>
+#include <catalogue/Catalogue.h>
+#include <catalogue/Words.h>
 
 #include <QtWidgets/QGridLayout>
 #include <QtWidgets/QLabel>

@@ -2,7 +2,7 @@
 
 #include "states/ElementState.h"
 
-#include <style/Painting.h>
+#include <style/tables/Painting.h>
 
 #include <QtCore/QSize>
 #include <QtWidgets/QStyleOption>

@@ -4,9 +4,9 @@
 #include "check/Appearance.h"
 #include "color/Tones.h"
 
+#include <catalogue/Words.h>
 #include <common_utils/Contrast.h>
 #include <resources/ThemeResources.h>
-#include <style/catalogue/Words.h>
 
 #include <cmath>
 

@@ -2,8 +2,8 @@
 
 #include "Literals.h"
 
+#include <catalogue/Words.h>
 #include <resources/ThemeResources.h>
-#include <style/catalogue/Words.h>
 
 #include <QtCore/QRegularExpression>
 #include <QtCore/QStringBuilder>

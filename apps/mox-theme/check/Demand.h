@@ -2,7 +2,7 @@
 
 #include "check/Configuration.h"
 
-#include <style/catalogue/Catalogue.h>
+#include <catalogue/Catalogue.h>
 
 #include <QtCore/QVector>
 

@@ -3,8 +3,8 @@
 #include "Literals.h"
 #include "check/DidYouMean.h"
 
+#include <catalogue/Words.h>
 #include <resources/ThemeResources.h>
-#include <style/catalogue/Words.h>
 
 namespace TARN::ThemeTool {
 

@@ -4,10 +4,10 @@
 #include "check/Demand.h"
 #include "check/DidYouMean.h"
 
-#include <resources/StyleSheetSubstitution.h>
 #include <resources/ThemeResources.h>
-#include <resources/VariablePath.h>
-#include <resources/VariantMap.h>
+#include <resources/variables/StyleSheetSubstitution.h>
+#include <resources/variables/VariablePath.h>
+#include <resources/variables/VariantMap.h>
 
 #include <QtCore/QDirIterator>
 #include <QtCore/QFile>

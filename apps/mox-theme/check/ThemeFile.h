@@ -2,7 +2,7 @@
 
 #include "check/Place.h"
 
-#include <readers/XmlFile.h>
+#include <readers/xml/XmlFile.h>
 
 #include <QtCore/QVector>
 #include <QtXml/QDomDocument>

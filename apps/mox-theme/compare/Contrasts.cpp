@@ -2,9 +2,9 @@
 #include "color/Tones.h"
 #include "compare/Differences.h"
 
+#include <catalogue/Catalogue.h>
+#include <catalogue/Words.h>
 #include <common_utils/Contrast.h>
-#include <style/catalogue/Catalogue.h>
-#include <style/catalogue/Words.h>
 
 #include <algorithm>
 

@@ -7,7 +7,7 @@
 
 #include <readers/QPaletteReader.h>
 #include <readers/ThemeConfigurationReader.h>
-#include <readers/XmlFile.h>
+#include <readers/xml/XmlFile.h>
 #include <theme/BaseThemeSettings.h>
 
 #include <QtCore/QCryptographicHash>

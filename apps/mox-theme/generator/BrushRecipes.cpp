@@ -2,8 +2,8 @@
 
 #include "Literals.h"
 
-#include <style/catalogue/Catalogue.h>
-#include <style/catalogue/Words.h>
+#include <catalogue/Catalogue.h>
+#include <catalogue/Words.h>
 
 #include <QtCore/QHash>
 

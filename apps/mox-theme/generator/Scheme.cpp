@@ -1,6 +1,6 @@
 #include "generator/Scheme.h"
 
-#include <style/catalogue/Words.h>
+#include <catalogue/Words.h>
 
 namespace TARN::ThemeTool {
 

@@ -5,8 +5,8 @@
 #include "generator/BrushRecipes.h"
 #include "generator/Scheme.h"
 
-#include <style/catalogue/Catalogue.h>
-#include <style/catalogue/Words.h>
+#include <catalogue/Catalogue.h>
+#include <catalogue/Words.h>
 
 #include <QtCore/QRegularExpression>
 #include <QtCore/QSet>

@@ -5,8 +5,8 @@
 #include "generator/ThemeDefinition.h"
 #include "import/SeenColors.h"
 
+#include <catalogue/Catalogue.h>
 #include <common_utils/Contrast.h>
-#include <style/catalogue/Catalogue.h>
 
 namespace TARN::ThemeTool {
 

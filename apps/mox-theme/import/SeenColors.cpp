@@ -3,7 +3,7 @@
 #include "Literals.h"
 #include "generator/ThemeDefinition.h"
 
-#include <style/catalogue/Catalogue.h>
+#include <catalogue/Catalogue.h>
 
 namespace TARN::ThemeTool {
 

@@ -1,10 +1,10 @@
 #include "style/families/Arrows.h"
 
 #include "style/BaseStyle.h"
-#include "style/Drawing.h"
-#include "style/OptionState.h"
-#include "style/Properties.h"
-#include "style/families/Buttons.h"
+#include "style/asking/OptionState.h"
+#include "style/asking/Properties.h"
+#include "style/drawing/Drawing.h"
+#include "style/families/buttons/PushButtons.h"
 
 #include <QtWidgets/QDateTimeEdit>
 #include <QtWidgets/QScrollBar>

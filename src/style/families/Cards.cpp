@@ -1,12 +1,12 @@
 #include "style/families/Cards.h"
 
+#include "catalogue/Names.h"
 #include "resources/ThemeResources.h"
 #include "style/BaseStyle.h"
-#include "style/Drawing.h"
-#include "style/OptionState.h"
-#include "style/Polishing.h"
-#include "style/Properties.h"
-#include "style/catalogue/Names.h"
+#include "style/asking/OptionState.h"
+#include "style/asking/Properties.h"
+#include "style/drawing/Drawing.h"
+#include "style/tables/Polishing.h"
 
 #include <QtGui/QPainter>
 #include <QtWidgets/QFrame>

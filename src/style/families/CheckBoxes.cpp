@@ -1,10 +1,10 @@
 #include "style/families/CheckBoxes.h"
 
+#include "catalogue/Names.h"
 #include "style/BaseStyle.h"
-#include "style/Drawing.h"
-#include "style/OptionState.h"
-#include "style/Properties.h"
-#include "style/catalogue/Names.h"
+#include "style/asking/OptionState.h"
+#include "style/asking/Properties.h"
+#include "style/drawing/Drawing.h"
 #include "style/families/Inputs.h"
 
 #include <QtCore/QtMath>

@@ -1,15 +1,15 @@
 #include "style/families/ComboBoxes.h"
 
+#include "catalogue/Names.h"
 #include "resources/ThemeColorHelper.h"
 #include "style/BaseStyle.h"
 #include "style/ComboBoxDefaultItemDelegate.h"
-#include "style/Drawing.h"
-#include "style/Geometry.h"
-#include "style/OptionState.h"
-#include "style/Properties.h"
-#include "style/catalogue/Names.h"
-#include "style/families/Buttons.h"
+#include "style/asking/OptionState.h"
+#include "style/asking/Properties.h"
+#include "style/drawing/Drawing.h"
 #include "style/families/Inputs.h"
+#include "style/families/buttons/PushButtons.h"
+#include "style/tables/Geometry.h"
 
 #include <QtGui/QPainter>
 #include <QtWidgets/QComboBox>

@@ -1,10 +1,10 @@
 #include "style/families/Components.h"
 
+#include "catalogue/Names.h"
 #include "resources/ThemeResources.h"
 #include "style/BaseStyle.h"
-#include "style/Polishing.h"
-#include "style/Properties.h"
-#include "style/catalogue/Names.h"
+#include "style/asking/Properties.h"
+#include "style/tables/Polishing.h"
 
 #include <QtGui/QPixmap>
 #include <QtWidgets/QWidget>

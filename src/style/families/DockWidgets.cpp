@@ -1,10 +1,10 @@
 #include "style/families/DockWidgets.h"
 
-#include "resources/ProcessCache.h"
+#include "catalogue/Names.h"
+#include "resources/kept/ProcessCache.h"
 #include "style/BaseStyle.h"
-#include "style/Drawing.h"
-#include "style/OptionState.h"
-#include "style/catalogue/Names.h"
+#include "style/asking/OptionState.h"
+#include "style/drawing/Drawing.h"
 #include "style/families/ToolBars.h"
 
 #include <QtGui/QPainter>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "style/Requests.h"
+#include "style/asking/Requests.h"
 
 namespace TARN {
 class BaseStyle;

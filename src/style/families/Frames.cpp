@@ -1,13 +1,13 @@
 #include "style/families/Frames.h"
 
+#include "catalogue/Names.h"
 #include "common_utils/DashedOutline.h"
-#include "resources/ProcessCache.h"
 #include "resources/ThemeResources.h"
+#include "resources/kept/ProcessCache.h"
 #include "style/BaseStyle.h"
-#include "style/Drawing.h"
-#include "style/OptionState.h"
-#include "style/Properties.h"
-#include "style/catalogue/Names.h"
+#include "style/asking/OptionState.h"
+#include "style/asking/Properties.h"
+#include "style/drawing/Drawing.h"
 
 #include <QtGui/QPainter>
 #include <QtWidgets/QFrame>

@@ -1,8 +1,8 @@
 #include "style/families/GroupBoxes.h"
 
 #include "style/BaseStyle.h"
-#include "style/Drawing.h"
-#include "style/OptionState.h"
+#include "style/asking/OptionState.h"
+#include "style/drawing/Drawing.h"
 
 #include <QtGui/QPainter>
 #include <QtWidgets/QGroupBox>

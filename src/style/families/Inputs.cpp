@@ -1,14 +1,14 @@
 #include "style/families/Inputs.h"
 
+#include "catalogue/ComposedBrushes.h"
+#include "catalogue/Names.h"
 #include "style/BaseStyle.h"
-#include "style/Drawing.h"
-#include "style/Geometry.h"
-#include "style/IconTinting.h"
-#include "style/OptionState.h"
-#include "style/Properties.h"
-#include "style/catalogue/ComposedBrushes.h"
-#include "style/catalogue/Names.h"
-#include "style/families/Buttons.h"
+#include "style/asking/OptionState.h"
+#include "style/asking/Properties.h"
+#include "style/drawing/Drawing.h"
+#include "style/families/buttons/PushButtons.h"
+#include "style/tables/Geometry.h"
+#include "style/watching/ButtonIcons.h"
 
 #include <QtGui/QPainter>
 #include <QtWidgets/QAbstractSpinBox>

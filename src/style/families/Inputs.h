@@ -1,6 +1,6 @@
 #pragma once
 
-#include "style/Requests.h"
+#include "style/asking/Requests.h"
 
 #include <QtCore/QRect>
 #include <QtGui/QBrush>

@@ -1,7 +1,7 @@
 #include "style/families/Labels.h"
 
+#include "catalogue/Names.h"
 #include "style/BaseStyle.h"
-#include "style/catalogue/Names.h"
 
 #include <QtWidgets/QWidget>
 

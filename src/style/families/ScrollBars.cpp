@@ -1,11 +1,11 @@
 #include "style/families/ScrollBars.h"
 
+#include "catalogue/Names.h"
 #include "style/BaseStyle.h"
-#include "style/Drawing.h"
-#include "style/Geometry.h"
-#include "style/OptionState.h"
-#include "style/Properties.h"
-#include "style/catalogue/Names.h"
+#include "style/asking/OptionState.h"
+#include "style/asking/Properties.h"
+#include "style/drawing/Drawing.h"
+#include "style/tables/Geometry.h"
 
 #include <QtGui/QPainter>
 #include <QtWidgets/QAbstractScrollArea>

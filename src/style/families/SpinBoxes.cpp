@@ -1,12 +1,12 @@
 #include "style/families/SpinBoxes.h"
 
+#include "catalogue/ComposedBrushes.h"
+#include "catalogue/Names.h"
 #include "style/BaseStyle.h"
-#include "style/Drawing.h"
-#include "style/Geometry.h"
-#include "style/OptionState.h"
-#include "style/catalogue/ComposedBrushes.h"
-#include "style/catalogue/Names.h"
+#include "style/asking/OptionState.h"
+#include "style/drawing/Drawing.h"
 #include "style/families/Inputs.h"
+#include "style/tables/Geometry.h"
 
 #include <QtGui/QPainter>
 

@@ -1,8 +1,8 @@
 #include "style/families/Splitters.h"
 
 #include "style/BaseStyle.h"
-#include "style/OptionState.h"
-#include "style/Properties.h"
+#include "style/asking/OptionState.h"
+#include "style/asking/Properties.h"
 #include "style/families/ToolBars.h"
 
 #include <QtGui/QPainter>

@@ -1,9 +1,9 @@
 #include "style/families/TipsAndStatus.h"
 
+#include "catalogue/Names.h"
 #include "style/BaseStyle.h"
-#include "style/Drawing.h"
-#include "style/OptionState.h"
-#include "style/catalogue/Names.h"
+#include "style/asking/OptionState.h"
+#include "style/drawing/Drawing.h"
 
 #include <QtGui/QPainter>
 #include <QtWidgets/QStyleOption>

@@ -1,10 +1,10 @@
 #include "style/families/TitleBars.h"
 
+#include "catalogue/Names.h"
 #include "resources/ThemeColorHelper.h"
 #include "style/BaseStyle.h"
-#include "style/Drawing.h"
-#include "style/OptionState.h"
-#include "style/catalogue/Names.h"
+#include "style/asking/OptionState.h"
+#include "style/drawing/Drawing.h"
 
 #include <QtGui/QPainter>
 #include <QtWidgets/QStyleOption>

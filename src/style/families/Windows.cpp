@@ -1,9 +1,9 @@
 #include "style/families/Windows.h"
 
 #include "style/BaseStyle.h"
-#include "style/Drawing.h"
-#include "style/OptionState.h"
-#include "style/Properties.h"
+#include "style/asking/OptionState.h"
+#include "style/asking/Properties.h"
+#include "style/drawing/Drawing.h"
 #include "style/families/Cards.h"
 
 #include <QtGui/QPainter>

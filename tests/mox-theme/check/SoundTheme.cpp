@@ -1,6 +1,6 @@
 #include "SoundTheme.h"
 
-#include <style/catalogue/Catalogue.h>
+#include <catalogue/Catalogue.h>
 
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>

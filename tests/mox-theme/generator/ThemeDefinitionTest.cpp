@@ -1,7 +1,7 @@
 #include "DefinedColors.h"
 
+#include <catalogue/Catalogue.h>
 #include <common_utils/Contrast.h>
-#include <style/catalogue/Catalogue.h>
 
 #include <QtCore/QRandomGenerator>
 #include <QtTest/QtTest>

@@ -1,8 +1,8 @@
 #include "DefinedColors.h"
 #include "SimulatedVision.h"
 
-#include <style/catalogue/Catalogue.h>
-#include <style/catalogue/Words.h>
+#include <catalogue/Catalogue.h>
+#include <catalogue/Words.h>
 
 #include <QtCore/QRandomGenerator>
 #include <QtTest/QtTest>

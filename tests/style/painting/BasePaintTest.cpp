@@ -1,5 +1,5 @@
 #include <style/BaseStyle.h>
-#include <style/Painting.h>
+#include <style/tables/Painting.h>
 
 #include <QtGui/QPainter>
 #include <QtTest/QtTest>

@@ -1,6 +1,6 @@
 #include "style/painting/CallRecorder.h"
 
-#include <style/Painting.h>
+#include <style/tables/Painting.h>
 
 #include <QtGui/QPainter>
 

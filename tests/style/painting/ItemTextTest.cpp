@@ -1,4 +1,4 @@
-#include <style/ItemText.h>
+#include <style/text/Paragraph.h>
 
 #include <QtGui/QImage>
 #include <QtGui/QPainter>

@@ -1,6 +1,6 @@
 #include "style/painting/PaintTheme.h"
 
-#include <style/catalogue/Catalogue.h>
+#include <catalogue/Catalogue.h>
 
 #include <QtCore/QSet>
 #include <QtCore/QStringList>

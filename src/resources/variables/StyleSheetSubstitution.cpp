@@ -1,0 +1,37 @@
+#include "resources/variables/StyleSheetSubstitution.h"
+
+#include "resources/ThemeResources.h"
+#include "resources/variables/LookUpObserver.h"
+#include "resources/variables/VariablePath.h"
+
+namespace TARN {
+
+QRegularExpression placeholderPattern()
+{
+    return QRegularExpression(QStringLiteral("(@)([\\w%1]+)(@)").arg(QLatin1Char('/')));
+}
+
+QString ThemeResources::customizeStyleSheet(const QString &styleSheet)
+{
+    const QVariantMap variables = publishedVariables(getThemeVariablePropertyName());
+    QString result;
+    int copied = 0;
+    // The text of a value is not searched again, and the end of a placeholder that names nothing
+    // does not open another one: matches that follow each other on the input are all there are.
+    QRegularExpressionMatchIterator matches = placeholderPattern().globalMatch(styleSheet);
+    while (matches.hasNext()) {
+        const QRegularExpressionMatch match = matches.next();
+        const QString path = match.captured(2);
+        tellLookUp(path);
+        const QVariant value = getThemeVarInternal(variables, path, QVariant());
+        if (value.isValid()) {
+            result += styleSheet.midRef(copied, match.capturedStart() - copied);
+            result += value.toString();
+            copied = match.capturedEnd();
+        }
+    }
+    result += styleSheet.midRef(copied);
+    return result;
+}
+
+} // namespace TARN

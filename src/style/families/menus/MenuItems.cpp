@@ -1,0 +1,423 @@
+#include "style/families/menus/MenuItems.h"
+
+#include "catalogue/Names.h"
+#include "resources/ThemeColorHelper.h"
+#include "style/BaseStyle.h"
+#include "style/asking/OptionState.h"
+#include "style/asking/Properties.h"
+#include "style/drawing/Drawing.h"
+#include "style/text/Paragraph.h"
+
+#include <QtGui/QPainter>
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QMenu>
+#include <QtWidgets/qdrawutil.h>
+
+namespace TARN::Menus {
+
+namespace {
+
+// The measures of an entry, which the base style makes 37 pixels wider than its contents and its
+// column, 12 more for the arrow of a menu and 20 more for a shortcut.
+constexpr int edge = 5;
+constexpr int arrowExtent = 12;
+constexpr int shortcutGap = 12;
+/// The menu measures its shortcuts in whole pixels, which a text may exceed by part of one.
+constexpr int shortcutExcess = 1;
+constexpr int endOfText = 2 * edge;
+constexpr int endOfTextWithArrow = arrowExtent + 2 * edge - 2;
+
+constexpr int frameDarkness = 160;
+
+/// Tells whether the menu is enabled: a disabled entry lies on the same surface as the others.
+bool isSurfaceEnabled(const PaintRequest &request)
+{
+    return request.widget ? request.widget->isEnabled() : isEnabled(*request.option);
+}
+
+QColor outlineColor(const QStyleOption &option)
+{
+    return option.palette.color(QPalette::Window).darker(frameDarkness);
+}
+
+/// Paints one entry of a menu. The columns for marks and icons are the same in all its entries.
+class EntryPainter
+{
+public:
+    EntryPainter(const BaseStyle &style, const QStyleOptionMenuItem &option,
+                 const PaintRequest &request);
+
+    void paint() const;
+
+private:
+    bool isSeparator() const { return m_option.menuItemType == QStyleOptionMenuItem::Separator; }
+    bool isSubMenu() const { return m_option.menuItemType == QStyleOptionMenuItem::SubMenu; }
+    bool isChecked() const { return m_option.checked || has(m_option, QStyle::State_On); }
+    bool isMarked() const;
+    bool hasMarkColumn() const;
+
+    const QBrush &textBrush() const;
+    QBrush iconBrush() const;
+    QIcon::Mode iconMode() const;
+    QRect visual(const QRect &rect) const;
+    QRect column(int left, int width) const;
+    int markExtent() const;
+    QSize iconSize() const;
+    int iconColumn() const;
+    int textColumn() const;
+
+    void drawSurface() const;
+    void drawOutline() const;
+    void drawSeparator() const;
+    int drawSectionTitle() const;
+    void drawMark() const;
+    void drawIcon() const;
+    void drawTexts() const;
+    void drawText(const QString &text, const QFont &font, const QRect &logicalRoom,
+                  Mnemonic mnemonic) const;
+    void drawArrow() const;
+
+    const BaseStyle &m_style;
+    const QStyleOptionMenuItem &m_option;
+    const PaintRequest &m_request;
+    QPainter &m_painter;
+    const QWidget *m_widget;
+    bool m_isHighlighted;
+    bool m_isComboBoxEntry;
+};
+
+EntryPainter::EntryPainter(const BaseStyle &style, const QStyleOptionMenuItem &option,
+                           const PaintRequest &request)
+    : m_style(style)
+    , m_option(option)
+    , m_request(request)
+    , m_painter(*request.painter)
+    , m_widget(request.widget)
+    , m_isHighlighted(isEnabled(option) && has(option, QStyle::State_Selected))
+    , m_isComboBoxEntry(isSet(request.widget, "_q_isComboBoxPopupItem") ||
+                        qobject_cast<const QComboBox *>(request.widget))
+{
+}
+
+void EntryPainter::paint() const
+{
+    drawSurface();
+    if (isSeparator()) {
+        drawSeparator();
+        drawOutline();
+        return;
+    }
+    drawOutline();
+    if (isMarked()) {
+        drawMark();
+    }
+    if (!m_option.icon.isNull()) {
+        drawIcon();
+    }
+    if (!m_option.text.isEmpty()) {
+        drawTexts();
+    }
+    if (isSubMenu()) {
+        drawArrow();
+    }
+}
+
+/// Tells whether the entry is marked as checked. The current entry of a combo box needs no mark,
+/// unless its model has check states of its own.
+bool EntryPainter::isMarked() const
+{
+    return hasMarkColumn() && m_option.checkType != QStyleOptionMenuItem::NotCheckable &&
+           isChecked();
+}
+
+/// Tells whether there is room for marks, as there also is in a menu that has nothing else before
+/// its texts.
+bool EntryPainter::hasMarkColumn() const
+{
+    if (m_isComboBoxEntry) {
+        return (m_option.state & (QStyle::State_On | QStyle::State_Off)) != 0;
+    }
+    return m_option.menuHasCheckableItems || m_option.maxIconWidth == 0 ||
+           m_option.checkType != QStyleOptionMenuItem::NotCheckable;
+}
+
+const QBrush &EntryPainter::textBrush() const
+{
+    if (!isEnabled(m_option)) {
+        return m_option.palette.brush(QPalette::Disabled, QPalette::Text);
+    }
+    return m_option.palette.brush(m_isHighlighted ? QPalette::HighlightedText : QPalette::Text);
+}
+
+/// Returns the brush that tints the icon: that of a button at rest, for a check mark tells what is
+/// checked; where such a button could not be seen, that of the text.
+QBrush EntryPainter::iconBrush() const
+{
+    if (m_isHighlighted || !isEnabled(m_option)) {
+        return textBrush();
+    }
+    QStyleOption atRest(m_option);
+    atRest.state = QStyle::State_Enabled;
+    const QBrush brush = BaseStyle::buttonBrushes(&atRest, m_widget).foreground;
+    return brush.style() == Qt::NoBrush ? textBrush() : brush;
+}
+
+/// Icons that take no tint may have a picture of their own to be seen on the highlight.
+QIcon::Mode EntryPainter::iconMode() const
+{
+    if (!isEnabled(m_option)) {
+        return QIcon::Disabled;
+    }
+    return m_isHighlighted ? QIcon::Selected : QIcon::Normal;
+}
+
+QRect EntryPainter::visual(const QRect &rect) const
+{
+    return QStyle::visualRect(m_option.direction, m_option.rect, rect);
+}
+
+/// Returns the part of the entry that begins at \a left, counted from its leading edge.
+QRect EntryPainter::column(int left, int width) const
+{
+    const QRect &rect = m_option.rect;
+    return visual(QRect(rect.left() + left, rect.top(), width, rect.height()));
+}
+
+int EntryPainter::markExtent() const
+{
+    return qMin(m_style.proxy()->pixelMetric(QStyle::PM_IndicatorWidth, &m_option, m_widget),
+                m_style.proxy()->pixelMetric(QStyle::PM_SmallIconSize, &m_option, m_widget));
+}
+
+QSize EntryPainter::iconSize() const
+{
+    if (const auto *comboBox = qobject_cast<const QComboBox *>(m_widget)) {
+        return comboBox->iconSize();
+    }
+    const int extent = m_style.proxy()->pixelMetric(QStyle::PM_SmallIconSize, &m_option, m_widget);
+    return {extent, extent};
+}
+
+int EntryPainter::iconColumn() const
+{
+    return hasMarkColumn() ? edge + markExtent() : edge;
+}
+
+int EntryPainter::textColumn() const
+{
+    const bool hasColumn = hasMarkColumn() || m_option.maxIconWidth > 0;
+    return iconColumn() + m_option.maxIconWidth + (hasColumn ? edge : 0);
+}
+
+void EntryPainter::drawSurface() const
+{
+    if (m_isHighlighted && !isSeparator()) {
+        m_painter.fillRect(m_option.rect, themeColor(ColorName::MainColor, true));
+    } else if (m_widget) {
+        m_painter.fillRect(m_option.rect, themeBrush(BrushName::BackgroundSubLevel1Brush,
+                                                     isSurfaceEnabled(m_request)));
+    }
+}
+
+/// Draws what the entry covers of the outline of its menu: the entries reach to the edge, and
+/// without it a menu could not be told from the one below.
+void EntryPainter::drawOutline() const
+{
+    const auto *menu = qobject_cast<const QMenu *>(m_widget);
+    if (!menu) {
+        return;
+    }
+    const QRect outer = menu->rect();
+    const QRect covered = outer & m_option.rect;
+    const QBrush brush(outlineColor(m_option));
+    const auto draw = [&](Qt::Edge side, bool isReached) {
+        if (isReached) {
+            fillEdge(m_painter, covered, side, brush);
+        }
+    };
+    draw(Qt::LeftEdge, covered.left() == outer.left());
+    draw(Qt::RightEdge, covered.right() == outer.right());
+    draw(Qt::TopEdge, covered.top() == outer.top());
+    draw(Qt::BottomEdge, covered.bottom() == outer.bottom());
+}
+
+/// Draws a line across the entry, after its title if it has one.
+void EntryPainter::drawSeparator() const
+{
+    const int start = m_option.text.isEmpty() ? 0 : drawSectionTitle();
+    const QRect &rect = m_option.rect;
+    const QRect line(rect.left() + start, rect.center().y(), rect.width() - start, 1);
+    if (!line.isEmpty()) {
+        m_painter.fillRect(visual(line), m_style.lightOutlineBrush(m_option.palette));
+    }
+}
+
+/// Draws the title of a section. Returns where the line after it begins.
+int EntryPainter::drawSectionTitle() const
+{
+    const QFont font = m_painter.font();
+    m_painter.setFont(m_option.font);
+    const int width = m_option.fontMetrics.horizontalAdvance(m_option.text);
+    const QRect room(m_option.rect.adjusted(edge, 0, -edge, 0));
+    m_style.proxy()->drawItemText(
+        &m_painter, room,
+        static_cast<int>(QStyle::visualAlignment(m_option.direction, Qt::AlignLeft)) |
+            Qt::AlignVCenter | Qt::TextSingleLine,
+        m_option.palette, isEnabled(m_option), m_option.text, QPalette::Text);
+    m_painter.setFont(font);
+    return qMin(width, room.width()) + 2 * edge;
+}
+
+void EntryPainter::drawMark() const
+{
+    const int extent = markExtent();
+    const QRect square = QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter,
+                                             QSize(extent, extent), column(edge, extent));
+    if (m_option.checkType == QStyleOptionMenuItem::Exclusive) {
+        m_style.drawRadioMark(&m_painter, square, textBrush());
+    } else {
+        m_style.drawCheckMark(&m_painter, square, textBrush());
+    }
+}
+
+void EntryPainter::drawIcon() const
+{
+    const QSize size = iconSize();
+    const QRect rect =
+        QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, size,
+                            column(iconColumn(), qMax(m_option.maxIconWidth, size.width())));
+    TARN::drawIcon(m_painter, rect,
+                   ThemeColorHelper::getModifiedIconWithForegroundBrush(m_option.icon, iconBrush()),
+                   iconMode(), isChecked() ? QIcon::On : QIcon::Off);
+}
+
+/// Draws the label and, in a column of its own, the shortcut.
+void EntryPainter::drawTexts() const
+{
+    m_painter.setPen(outlinePen(textBrush()));
+    const int end = isSubMenu() ? endOfTextWithArrow : endOfText;
+    const QRect &rect = m_option.rect;
+    QRect room(rect.left() + textColumn(), rect.top(), rect.width() - textColumn() - end,
+               rect.height());
+    const int tab = m_option.text.indexOf(QLatin1Char('\t'));
+    if (tab >= 0) {
+        const QRect shortcut(room.right() + 1 - m_option.tabWidth, room.top(),
+                             m_option.tabWidth + shortcutExcess, room.height());
+        drawText(m_option.text.mid(tab + 1), m_option.font, shortcut, Mnemonic::None);
+        room.setRight(shortcut.left() - shortcutGap);
+    }
+    QFont font = m_option.font;
+    if (m_option.menuItemType == QStyleOptionMenuItem::DefaultItem) {
+        font.setBold(true);
+    }
+    drawText(m_option.text.left(tab), font, room,
+             mnemonicFlags(m_style, m_request) == Qt::TextShowMnemonic ? Mnemonic::Underlined
+                                                                       : Mnemonic::Hidden);
+}
+
+void EntryPainter::drawText(const QString &text, const QFont &font, const QRect &logicalRoom,
+                            Mnemonic mnemonic) const
+{
+    const QRect room = visual(logicalRoom);
+    ItemTextSetting setting;
+    setting.text = text;
+    setting.font = font;
+    setting.room = room.size();
+    setting.elideMode = Qt::ElideMiddle;
+    setting.direction = m_option.direction;
+    setting.mnemonic = mnemonic;
+    ItemText::of(setting)->draw(m_painter, room.topLeft());
+}
+
+void EntryPainter::drawArrow() const
+{
+    QStyleOptionMenuItem arrow(m_option);
+    arrow.rect =
+        QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, QSize(arrowExtent, arrowExtent),
+                            column(m_option.rect.width() - edge - arrowExtent, arrowExtent));
+    arrow.state = m_option.state & (QStyle::State_Enabled | QStyle::State_Selected);
+    arrow.palette.setBrush(QPalette::WindowText, textBrush());
+    arrow.palette.setBrush(QPalette::ButtonText, textBrush());
+    m_style.proxy()->drawPrimitive(isRightToLeft(m_option) ? QStyle::PE_IndicatorArrowLeft
+                                                           : QStyle::PE_IndicatorArrowRight,
+                                   &arrow, &m_painter, m_widget);
+}
+
+/// Draws the icon of an item of a menu bar; without one, its text.
+void drawBarContents(const BaseStyle &style, const PaintRequest &request,
+                     const QStyleOptionMenuItem &option, QPalette::ColorRole role)
+{
+    if (option.icon.isNull()) {
+        const int flags =
+            Qt::AlignCenter | Qt::TextDontClip | Qt::TextSingleLine | mnemonicFlags(style, request);
+        style.proxy()->drawItemText(request.painter, option.rect, flags, option.palette,
+                                    isEnabled(option), option.text, role);
+        return;
+    }
+    const int extent =
+        style.proxy()->pixelMetric(QStyle::PM_SmallIconSize, &option, request.widget);
+    const QPalette::ColorGroup group =
+        isEnabled(option) ? option.palette.currentColorGroup() : QPalette::Disabled;
+    drawTintedIcon(
+        *request.painter,
+        QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, QSize(extent, extent), option.rect),
+        option.icon, option.palette.brush(group, role));
+}
+
+} // namespace
+
+bool drawPanel(const BaseStyle & /*style*/, const PaintRequest &request)
+{
+    const QStyleOption &option = *request.option;
+    if (option.rect.isEmpty()) {
+        return true;
+    }
+    request.painter->fillRect(
+        option.rect, themeBrush(BrushName::BackgroundSubLevel1Brush, isSurfaceEnabled(request)));
+    qDrawPlainRect(request.painter, option.rect, outlineColor(option));
+    return true;
+}
+
+bool drawItem(const BaseStyle &style, const PaintRequest &request)
+{
+    const auto *option = qstyleoption_cast<const QStyleOptionMenuItem *>(request.option);
+    if (!option) {
+        return false;
+    }
+    if (!option->rect.isEmpty()) {
+        EntryPainter(style, *option, request).paint();
+    }
+    return true;
+}
+
+bool drawBarItem(const BaseStyle &style, const PaintRequest &request)
+{
+    const auto *option = qstyleoption_cast<const QStyleOptionMenuItem *>(request.option);
+    if (!option) {
+        return false;
+    }
+    if (option->rect.isEmpty()) {
+        return true;
+    }
+    const bool isHighlighted =
+        has(*option, QStyle::State_Selected) || has(*option, QStyle::State_MouseOver);
+    if (isHighlighted) {
+        request.painter->fillRect(option->rect,
+                                  themeColor(ColorName::MainColor, isEnabled(*option)));
+    } else {
+        request.painter->fillRect(option->rect, themeBrush(BrushName::BackgroundSubLevel2Brush,
+                                                           isSurfaceEnabled(request)));
+    }
+    drawBarContents(style, request, *option,
+                    isHighlighted ? QPalette::HighlightedText : QPalette::ButtonText);
+    return true;
+}
+
+bool drawBarEmptyArea(const BaseStyle & /*style*/, const PaintRequest &request)
+{
+    request.painter->fillRect(request.option->rect, themeBrush(BrushName::BackgroundSubLevel2Brush,
+                                                               isSurfaceEnabled(request)));
+    return true;
+}
+
+} // namespace TARN::Menus

@@ -1,0 +1,208 @@
+#include "style/families/tabs/TabSizes.h"
+
+#include "resources/ThemeResources.h"
+#include "resources/kept/ProcessCache.h"
+#include "style/BaseStyle.h"
+#include "style/asking/Properties.h"
+#include "style/tables/Geometry.h"
+#include "style/tables/Polishing.h"
+
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QStyleOption>
+#include <QtWidgets/QTabWidget>
+
+namespace TARN::Tabs {
+
+namespace {
+
+constexpr int smallHeight = 16;
+constexpr int mediumHeight = 39;
+constexpr int largeHeight = 50;
+
+/// How much wider than the style knows the bold text of a selected tab is.
+constexpr int boldGrowth = 2;
+
+/// Returns the height that the base style gave the first tab that was ever measured.
+int baseHeight(const QSize &size)
+{
+    static ProcessKept<int> height;
+    return height.value([&size] { return size.height(); });
+}
+
+int applicationTabHeight(int base)
+{
+    if (isSet(qApp, "appSmallTabSize")) {
+        return smallHeight;
+    }
+    if (isSet(qApp, "appBaseTabSize")) {
+        return base;
+    }
+    return isSet(qApp, "appLargeTabSize") ? largeHeight : mediumHeight;
+}
+
+int tabHeight(const QWidget &tabBar, int base)
+{
+    if (isSet(&tabBar, "largeTabSize")) {
+        return largeHeight;
+    }
+    if (isSet(&tabBar, "smallTabSize")) {
+        return smallHeight;
+    }
+    return isSet(&tabBar, "baseTabSize") ? base : applicationTabHeight(base);
+}
+
+QString applicationFontSize()
+{
+    if (isSet(qApp, "appSmallTabSize")) {
+        return QStringLiteral("small");
+    }
+    if (isSet(qApp, "appBaseTabSize")) {
+        return QStringLiteral("base");
+    }
+    return isSet(qApp, "appLargeTabSize") ? QStringLiteral("large") : QStringLiteral("medium");
+}
+
+QString fontSize(const QWidget &widget)
+{
+    if (isSet(&widget, "largeTabSize")) {
+        return QStringLiteral("large");
+    }
+    if (isSet(&widget, "smallTabSize")) {
+        return QStringLiteral("small");
+    }
+    return isSet(&widget, "baseTabSize") ? QStringLiteral("base") : applicationFontSize();
+}
+
+bool isAtSide(const QTabWidget &tabWidget)
+{
+    return tabWidget.tabPosition() == QTabWidget::West ||
+           tabWidget.tabPosition() == QTabWidget::East;
+}
+
+/// Returns the extent along the bar, at least \a extent, that a tab has in a bar which its tabs
+/// are to fill.
+int stretchedExtent(const QStyleOptionTab &option, const QTabBar &tabBar, int extent)
+{
+    const QSize outer = tabBar.parentWidget() ? tabBar.parentWidget()->size() : tabBar.size();
+    const int total = isVertical(option.shape) ? outer.height() : outer.width();
+    const int count = tabBar.count();
+    if (option.position == QStyleOptionTab::Beginning ||
+        option.position == QStyleOptionTab::Middle) {
+        return count > 0 ? qMax(extent, total / count) : extent;
+    }
+    // A single tab fills the bar; the last of several keeps its own size.
+    const int rest = (2 - count) * total - (tabBar.usesScrollButtons() ? 0 : 4);
+    return qMax(extent, rest);
+}
+
+} // namespace
+
+bool isSouth(QTabBar::Shape shape)
+{
+    return shape == QTabBar::RoundedSouth || shape == QTabBar::TriangularSouth;
+}
+
+bool isWest(QTabBar::Shape shape)
+{
+    return shape == QTabBar::RoundedWest || shape == QTabBar::TriangularWest;
+}
+
+bool isEast(QTabBar::Shape shape)
+{
+    return shape == QTabBar::RoundedEast || shape == QTabBar::TriangularEast;
+}
+
+bool isVertical(QTabBar::Shape shape)
+{
+    return isWest(shape) || isEast(shape);
+}
+
+bool isCurrentTabHighlighted(const QWidget *tabBar)
+{
+    return isSet(tabBar, "currentTabHighlighted") || isSet(qApp, "appCurrentTabHighlighted");
+}
+
+QRect tabBarRect(const BaseStyle &style, const SubElementRequest &request)
+{
+    QRect rect = baseRect(style, request);
+    const auto *option = qstyleoption_cast<const QStyleOptionTabWidgetFrame *>(request.option);
+    if (!option || !isSet(request.widget, "stretched")) {
+        return rect;
+    }
+    if (isVertical(option->shape)) {
+        rect.setHeight(request.widget->height());
+    } else {
+        rect.setWidth(request.widget->width());
+    }
+    return rect;
+}
+
+QRect rightButtonRect(const BaseStyle &style, const SubElementRequest &request)
+{
+    QRect rect = baseRect(style, request);
+    const auto *option = qstyleoption_cast<const QStyleOptionTab *>(request.option);
+    if (!option) {
+        return rect;
+    }
+    switch (option->shape) {
+    case QTabBar::RoundedNorth:
+    case QTabBar::RoundedSouth:
+        rect.moveRight(option->rect.right() - 2);
+        break;
+    case QTabBar::RoundedWest:
+        rect.moveTop(option->rect.top() + 2);
+        break;
+    case QTabBar::RoundedEast:
+        rect.moveBottom(option->rect.bottom() - 2);
+        break;
+    default:
+        break;
+    }
+    return rect;
+}
+
+QRect textRect(const BaseStyle &style, const SubElementRequest &request)
+{
+    QRect rect =
+        style.QCommonStyle::subElementRect(request.element, request.option, request.widget);
+    const auto *option = qstyleoption_cast<const QStyleOptionTab *>(request.option);
+    const bool isBold = option && !isCurrentTabHighlighted(request.widget) &&
+                        style.getTabBackgroundState(*option) == 0;
+    if (!isBold) {
+        return rect;
+    }
+    if (isEast(option->shape)) {
+        rect.setBottom(rect.bottom() + boldGrowth);
+    } else if (isWest(option->shape)) {
+        rect.setTop(rect.top() - boldGrowth);
+    } else {
+        rect.setRight(rect.right() + boldGrowth);
+    }
+    return rect;
+}
+
+QSize tabSize(const BaseStyle &style, const ContentsRequest &request)
+{
+    QSize size = baseSize(style, request);
+    const auto *tabBar = qobject_cast<const QTabBar *>(request.widget);
+    if (!tabBar) {
+        return size;
+    }
+    if (const auto *tabWidget = qobject_cast<const QTabWidget *>(tabBar->parentWidget())) {
+        const int height = tabHeight(*tabBar, baseHeight(size));
+        (isAtSide(*tabWidget) ? size.rwidth() : size.rheight()) = height;
+    }
+    const auto *option = qstyleoption_cast<const QStyleOptionTab *>(request.option);
+    if (option && isSet(tabBar, "stretched")) {
+        int &extent = isVertical(option->shape) ? size.rheight() : size.rwidth();
+        extent = stretchedExtent(*option, *tabBar, extent);
+    }
+    return size;
+}
+
+void polishFont(BaseStyle & /*style*/, QWidget &widget)
+{
+    setPolishedFont(widget, ThemeResources::getFont(fontSize(widget)));
+}
+
+} // namespace TARN::Tabs

@@ -1,0 +1,104 @@
+#include "style/tables/Geometry.h"
+
+#include "style/BaseStyle.h"
+#include "style/families/CheckBoxes.h"
+#include "style/families/ComboBoxes.h"
+#include "style/families/GroupBoxes.h"
+#include "style/families/Inputs.h"
+#include "style/families/ProgressBars.h"
+#include "style/families/ScrollBars.h"
+#include "style/families/Sliders.h"
+#include "style/families/SpinBoxes.h"
+#include "style/families/buttons/PushButtons.h"
+#include "style/families/item_views/ItemViews.h"
+#include "style/families/tabs/TabSizes.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace TARN {
+
+namespace {
+
+template <typename Element, typename Rule>
+struct Row
+{
+    Element element;
+    Rule rule;
+};
+
+constexpr Row<QStyle::SubElement, SubElementRule> subElementTable[] = {
+    {QStyle::SE_CheckBoxIndicator, CheckBoxes::indicatorRect},
+    {QStyle::SE_CheckBoxContents, CheckBoxes::contentsRect},
+    {QStyle::SE_TabWidgetTabBar, Tabs::tabBarRect},
+    {QStyle::SE_ItemViewItemCheckIndicator, ItemViews::decorationRect},
+    {QStyle::SE_ItemViewItemDecoration, ItemViews::decorationRect},
+    {QStyle::SE_ItemViewItemText, ItemViews::textRect},
+    {QStyle::SE_TabBarTabRightButton, Tabs::rightButtonRect},
+    {QStyle::SE_TabBarTabText, Tabs::textRect},
+};
+
+constexpr Row<QStyle::ComplexControl, SubControlRule> subControlTable[] = {
+    {QStyle::CC_SpinBox, SpinBoxes::subControlRect},
+    {QStyle::CC_ComboBox, ComboBoxes::subControlRect},
+    {QStyle::CC_ScrollBar, ScrollBars::subControlRect},
+    {QStyle::CC_Slider, Sliders::subControlRect},
+    {QStyle::CC_GroupBox, GroupBoxes::subControlRect},
+};
+
+constexpr Row<QStyle::ContentsType, ContentsRule> contentsTable[] = {
+    {QStyle::CT_PushButton, Buttons::pushButtonSize},
+    {QStyle::CT_ToolButton, Buttons::toolButtonSize},
+    {QStyle::CT_ComboBox, ComboBoxes::comboBoxSize},
+    {QStyle::CT_LineEdit, Inputs::lineEditSize},
+    {QStyle::CT_ProgressBar, ProgressBars::progressBarSize},
+    {QStyle::CT_TabBarTab, Tabs::tabSize},
+    {QStyle::CT_Slider, Sliders::sliderSize},
+    {QStyle::CT_ScrollBar, ScrollBars::scrollBarSize},
+    {QStyle::CT_ItemViewItem, ItemViews::itemSize},
+};
+
+template <typename Element, typename Rule, std::size_t Size>
+Rule find(const Row<Element, Rule> (&table)[Size], Element element)
+{
+    const auto *row = std::find_if(
+        std::begin(table), std::end(table),
+        [element](const Row<Element, Rule> &candidate) { return candidate.element == element; });
+    return row == std::end(table) ? nullptr : row->rule;
+}
+
+} // namespace
+
+SubElementRule subElementRule(QStyle::SubElement element)
+{
+    return find(subElementTable, element);
+}
+
+SubControlRule subControlRule(QStyle::ComplexControl control)
+{
+    return find(subControlTable, control);
+}
+
+ContentsRule contentsRule(QStyle::ContentsType type)
+{
+    return find(contentsTable, type);
+}
+
+QRect baseRect(const BaseStyle &style, const SubElementRequest &request)
+{
+    return style.QProxyStyle::subElementRect(request.element, request.option, request.widget);
+}
+
+QRect baseRect(const BaseStyle &style, const SubControlRequest &request)
+{
+    return style.QProxyStyle::subControlRect(request.control, request.option, request.subControl,
+                                             request.widget);
+}
+
+QSize baseSize(const BaseStyle &style, const ContentsRequest &request)
+{
+    return style.QProxyStyle::sizeFromContents(request.type, request.option, request.contents,
+                                               request.widget);
+}
+
+} // namespace TARN

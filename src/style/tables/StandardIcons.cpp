@@ -1,0 +1,177 @@
+#include "catalogue/Names.h"
+#include "common_utils/Helpers.h"
+#include "resources/ThemeColorHelper.h"
+#include "resources/ThemeResources.h"
+#include "resources/kept/ProcessCache.h"
+#include "style/BaseStyle.h"
+
+#include <QtGui/QImage>
+#include <QtGui/QPixmap>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QStyleOption>
+
+#include <algorithm>
+#include <iterator>
+
+namespace TARN {
+
+namespace {
+
+constexpr int titleBarIconSize = 16;
+
+constexpr char minimizeIcon[] = "action.app.minimize";
+constexpr char maximizeIcon[] = "action.app.maximize";
+constexpr char closeIcon[] = "action.close";
+
+struct IconRow
+{
+    QStyle::StandardPixmap pixmap;
+    const char *name;
+};
+
+constexpr IconRow iconTable[] = {
+    {QStyle::SP_TitleBarMinButton, minimizeIcon},
+    {QStyle::SP_TitleBarMaxButton, maximizeIcon},
+    {QStyle::SP_TitleBarNormalButton, maximizeIcon},
+    {QStyle::SP_TitleBarCloseButton, closeIcon},
+    {QStyle::SP_DockWidgetCloseButton, closeIcon},
+    {QStyle::SP_DialogCloseButton, closeIcon},
+    {QStyle::SP_LineEditClearButton, closeIcon},
+    {QStyle::SP_MessageBoxInformation, "status.info.circular.colored"},
+    {QStyle::SP_MessageBoxWarning, "status.warning.circular.colored"},
+    {QStyle::SP_MessageBoxCritical, "status.danger.circular.colored"},
+    {QStyle::SP_MessageBoxQuestion, "status.help.circular.colored"},
+    {QStyle::SP_TrashIcon, "action.delete"},
+    {QStyle::SP_ArrowUp, "arrow.up.small"},
+    {QStyle::SP_ArrowDown, "arrow.down.small"},
+    {QStyle::SP_ArrowLeft, "arrow.left.small"},
+    {QStyle::SP_ArrowBack, "arrow.left.small"},
+    {QStyle::SP_ArrowRight, "arrow.right.small"},
+    {QStyle::SP_ArrowForward, "arrow.right.small"},
+    {QStyle::SP_CommandLink, "arrow.right.small"},
+};
+
+constexpr IconRow titleBarPixmapTable[] = {
+    {QStyle::SP_TitleBarCloseButton, closeIcon},     {QStyle::SP_DockWidgetCloseButton, closeIcon},
+    {QStyle::SP_DialogCloseButton, closeIcon},       {QStyle::SP_TitleBarMaxButton, maximizeIcon},
+    {QStyle::SP_TitleBarNormalButton, maximizeIcon}, {QStyle::SP_TitleBarMinButton, minimizeIcon},
+};
+
+/// Icons that are highlighted by another of their colours than the foreground.
+struct HighlightRow
+{
+    const char *name;
+    QRgb color;
+};
+
+constexpr HighlightRow highlightTable[] = {{"status.checked.circular.colored", 0xfff6b436}};
+
+// Two chevrons, pointing right and down.
+const char *const horizontalExtension[] = {"8 5 3 1",  "  c None", ". c #000000",
+                                           "+ c none", "..++..++", "+..++..+",
+                                           "++..++..", "+..++..+", "..++..++"};
+const char *const verticalExtension[] = {"5 8 3 1", "  c None", ". c #000000", "+ c none",
+                                         ".+++.",   "..+..",    "+...+",       "++.++",
+                                         ".+++.",   "..+..",    "+...+",       "++.++"};
+
+template <std::size_t Size>
+const char *iconName(const IconRow (&table)[Size], QStyle::StandardPixmap pixmap)
+{
+    const auto *row = std::find_if(std::begin(table), std::end(table),
+                                   [pixmap](const IconRow &each) { return each.pixmap == pixmap; });
+    return row == std::end(table) ? nullptr : row->name;
+}
+
+QIcon themeIcon(const char *name)
+{
+    return QIcon::fromTheme(QLatin1String(name));
+}
+
+QIcon highlightedIcon(const QStyleOption *option, const QWidget *widget)
+{
+    const QString name = widget ? widget->property("highlightedIcon").toString() : QString();
+    if (name.isEmpty()) {
+        return {};
+    }
+    const bool enabled = !option || option->state.testFlag(QStyle::State_Enabled);
+    const QBrush tint = themeBrush(BrushName::MainBrush, enabled);
+    for (const HighlightRow &row : highlightTable) {
+        if (name == QLatin1String(row.name)) {
+            return Helpers::getModifiedIconWithForegroundBrush(QIcon::fromTheme(name),
+                                                               QColor(row.color), tint, false);
+        }
+    }
+    return ThemeColorHelper::getModifiedIconWithForegroundBrush(QIcon::fromTheme(name), tint);
+}
+
+/// Returns \a image with every pixel that is not wholly transparent in \a color.
+QPixmap colored(QImage image, const QColor &color)
+{
+    const QRgb rgb = color.rgb() & 0x00ffffff;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            const QRgb alpha = image.pixel(x, y) & 0xff000000;
+            if (alpha != 0) {
+                image.setPixel(x, y, alpha | rgb);
+            }
+        }
+    }
+    return QPixmap::fromImage(image);
+}
+
+} // namespace
+
+QIcon BaseStyle::standardIcon(StandardPixmap sp, const QStyleOption *option,
+                              const QWidget *widget) const
+{
+    if (sp == SP_CustomBase) {
+        return highlightedIcon(option, widget);
+    }
+    if (sp == SP_ToolBarHorizontalExtensionButton) {
+        static ProcessKept<QIcon> icon;
+        return icon.value(
+            [this] { return generateToolBarExpandButtonIcon(horizontalExtension, m_palette); });
+    }
+    if (sp == SP_ToolBarVerticalExtensionButton) {
+        static ProcessKept<QIcon> icon;
+        return icon.value(
+            [this] { return generateToolBarExpandButtonIcon(verticalExtension, m_palette); });
+    }
+    const char *name = iconName(iconTable, sp);
+    return name ? themeIcon(name) : QProxyStyle::standardIcon(sp, option, widget);
+}
+
+QPixmap BaseStyle::standardPixmap(StandardPixmap sp, const QStyleOption *option,
+                                  const QWidget *widget) const
+{
+    if (const char *name = iconName(titleBarPixmapTable, sp)) {
+        return themeIcon(name).pixmap(QSize(titleBarIconSize, titleBarIconSize));
+    }
+    return QProxyStyle::standardPixmap(sp, option, widget);
+}
+
+QPixmap BaseStyle::generatedIconPixmap(QIcon::Mode mode, const QPixmap &pixmap,
+                                       const QStyleOption *option) const
+{
+    if (mode != QIcon::Disabled || !option || !qobject_cast<QLabel *>(option->styleObject)) {
+        return pixmap;
+    }
+    const QBrush tint = themeBrush(BrushName::ForegroundBrush, false);
+    const QIcon icon = ThemeColorHelper::getModifiedIconWithForegroundBrush(QIcon(pixmap), tint);
+    const qreal ratio = pixmap.devicePixelRatio();
+    return icon.pixmap(QSize(int(pixmap.width() / ratio), int(pixmap.height() / ratio)));
+}
+
+QIcon BaseStyle::generateToolBarExpandButtonIcon(const char *const *xpm,
+                                                 const QPalette &palette) const
+{
+    const QImage image = QImage(xpm).convertToFormat(QImage::Format_ARGB32);
+    QIcon icon;
+    icon.addPixmap(colored(image, palette.color(QPalette::Current, QPalette::Text)), QIcon::Normal,
+                   QIcon::Off);
+    icon.addPixmap(colored(image, palette.color(QPalette::Current, QPalette::HighlightedText)),
+                   QIcon::Active, QIcon::Off);
+    return icon;
+}
+
+} // namespace TARN

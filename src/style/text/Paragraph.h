@@ -1,0 +1,72 @@
+#pragma once
+
+#include "style/text/Mnemonic.h"
+
+#include <mox_common_theme_export.h>
+
+#include <QtCore/QPoint>
+#include <QtCore/QRectF>
+#include <QtCore/QSize>
+#include <QtCore/QString>
+#include <QtGui/QFont>
+
+#include <memory>
+
+class QPainter;
+class QTextLayout;
+
+namespace TARN {
+
+/// A text, and everything that its look depends on but its colour and its place.
+struct ItemTextSetting
+{
+    QString text; ///< lines end with QChar::LineSeparator
+    QFont font;
+    QSize room;
+    Qt::Alignment alignment = Qt::AlignLeft | Qt::AlignVCenter; ///< for left-to-right
+    Qt::TextElideMode elideMode = Qt::ElideRight;
+    Qt::LayoutDirection direction = Qt::LeftToRight;
+    bool isWrapped = false;
+    Mnemonic mnemonic = Mnemonic::None;
+};
+
+bool operator==(const ItemTextSetting &a, const ItemTextSetting &b);
+uint qHash(const ItemTextSetting &setting, uint seed = 0);
+
+/// A text laid out in its room: broken into lines, each elided where it is too wide, and the last
+/// one that can be seen where it is not the last of all. It looks as the toolkit draws the text of
+/// an item.
+///
+/// Finding the glyphs of a text takes several times longer than drawing them, so texts are kept
+/// from one painting to the next; the ones that were not drawn for the longest time are dropped
+/// first. Neither the colour nor the resolution is kept: a text is drawn with the painter's pen
+/// and under its transformation, whatever they are.
+class MOX_COMMON_THEME_EXPORT ItemText
+{
+public:
+    /// Returns the text laid out so; a kept one if there is one. To be called on the GUI thread.
+    static std::shared_ptr<const ItemText> of(const ItemTextSetting &setting);
+
+    explicit ItemText(const ItemTextSetting &setting);
+    ~ItemText();
+
+    ItemText(const ItemText &) = delete;
+    ItemText &operator=(const ItemText &) = delete;
+
+    /// Draws the text with the pen of \a painter in the room whose top left corner is \a corner.
+    void draw(QPainter &painter, const QPoint &corner) const;
+
+    /// Returns where the text leaves marks, for a room at the origin. A text that is not elided, or
+    /// that is higher than its room, leaves some outside of it.
+    const QRectF &ink() const { return m_ink; }
+
+    /// Returns what can be read, with its ellipses.
+    QString visibleText() const;
+
+private:
+    std::unique_ptr<QTextLayout> m_layout;
+    qreal m_top = 0;
+    QRectF m_ink;
+};
+
+} // namespace TARN

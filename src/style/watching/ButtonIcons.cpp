@@ -1,0 +1,94 @@
+#include "style/watching/ButtonIcons.h"
+
+#include "catalogue/ComposedBrushes.h"
+#include "catalogue/Names.h"
+#include "resources/ThemeColorHelper.h"
+#include "resources/ThemeResources.h"
+#include "style/BaseStyle.h"
+
+#include <QtGui/QPalette>
+#include <QtWidgets/QAction>
+#include <QtWidgets/QCommandLinkButton>
+#include <QtWidgets/QToolButton>
+
+namespace TARN {
+
+namespace {
+
+constexpr char originalIconProperty[] = "originalIcon";
+/// What a button's icon was last tinted with. Setting an icon has the button painted again, so
+/// that setting the same one at every painting would never end.
+constexpr char tintProperty[] = "_tarn_iconTint";
+constexpr char tintedIconProperty[] = "_tarn_tintedIcon";
+
+bool isHovered(const QWidget &button)
+{
+    return button.underMouse() && button.isEnabled();
+}
+
+/// Tells whether \a button still shows what it was given for \a tint.
+bool isTinted(const QAbstractButton &button, const QBrush &tint)
+{
+    return button.property(tintProperty).value<QBrush>() == tint &&
+           button.property(tintedIconProperty).toLongLong() == button.icon().cacheKey();
+}
+
+void setTintedIcon(QAbstractButton &button, const QIcon &source, const QBrush &tint)
+{
+    button.setIcon(ThemeColorHelper::getModifiedIconWithForegroundBrush(source, tint));
+    button.setProperty(tintProperty, tint);
+    button.setProperty(tintedIconProperty, button.icon().cacheKey());
+}
+
+/// Tells whether the button was made for an action that an application added to its line edit:
+/// that action's icon is to stay.
+bool isOfAnAddedAction(const QToolButton &button)
+{
+    const QAction *action = button.defaultAction();
+    return action && action->objectName() != QLatin1String("_q_qlineeditclearaction");
+}
+
+} // namespace
+
+void tintOnPaint(BaseStyle &style, QWidget &widget)
+{
+    // What a former style put on it came from another theme.
+    widget.setProperty(tintProperty, QVariant());
+    widget.installEventFilter(&style);
+}
+
+void tintClearButton(QToolButton &button)
+{
+    if (isOfAnAddedAction(button)) {
+        return;
+    }
+    const QBrush tint(isHovered(button) ? themeColor(ColorName::MainColor, true)
+                                        : button.palette().color(QPalette::WindowText));
+    if (!isTinted(button, tint)) {
+        setTintedIcon(button, QIcon::fromTheme(QStringLiteral("action.close")), tint);
+    }
+}
+
+/// Returns the brush that draws the text of a plain button under the mouse.
+QBrush hoveredForeground()
+{
+    return composedBrush(ComposedWidget::Button, KindWord(),
+                         {CheckState::Unchecked, Interaction::Hover}, BrushField::Foreground, true);
+}
+
+void tintCommandLink(QCommandLinkButton &button)
+{
+    if (button.icon().isNull()) {
+        return;
+    }
+    if (!button.property(originalIconProperty).isValid()) {
+        button.setProperty(originalIconProperty, button.icon());
+    }
+    const bool isHighlighted = !button.isChecked() && !button.isDown() && isHovered(button);
+    const QBrush tint = isHighlighted ? hoveredForeground() : button.palette().buttonText();
+    if (!isTinted(button, tint)) {
+        setTintedIcon(button, button.property(originalIconProperty).value<QIcon>(), tint);
+    }
+}
+
+} // namespace TARN
