@@ -25,6 +25,7 @@ foreach(header IN ITEMS
     style/BaseStyle.h
     style/ComboBoxDefaultItemDelegate.h
     style/ProxyStyle_p.h
+    style/brushes/ButtonBrushes.h
     theme/BaseTheme.h
     theme/BaseThemeSettings.h
     theme/Theme.h

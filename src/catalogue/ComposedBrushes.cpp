@@ -2,8 +2,8 @@
 
 #include "catalogue/VariableTable.h"
 #include "catalogue/Words.h"
+#include "resources/ThemeResources.h"
 #include "resources/kept/ProcessCache.h"
-#include "style/BaseStyle.h"
 
 #include <QtCore/QStringBuilder>
 
@@ -59,7 +59,8 @@ QBrush composedBrush(ComposedWidget widget, const KindWord &kind, StateWord stat
                      bool enabled)
 {
     const auto lookUp = [&] {
-        return BaseStyle::getBrush(nameOf(widget, kind.name(), state, field), enabled);
+        return ThemeResources::getBrush(
+            Words::variable(nameOf(widget, kind.name(), state, field), enabled));
     };
     if (kind.index() < 0) {
         return lookUp();

@@ -1,8 +1,9 @@
 #include "catalogue/Names.h"
 
 #include "catalogue/VariableTable.h"
+#include "catalogue/Words.h"
+#include "resources/ThemeResources.h"
 #include "resources/kept/ProcessCache.h"
-#include "style/BaseStyle.h"
 
 #include <array>
 
@@ -51,7 +52,7 @@ const QBrush &themeBrush(BrushName brush, bool enabled)
     static ProcessCached<VariableTable<QBrush, brushCount>> table(
         [] { return VariableTable<QBrush, brushCount>(); });
     return table.value().value(static_cast<std::size_t>(brush), enabled, [brush, enabled] {
-        return BaseStyle::getBrush(nameOf(brush), enabled);
+        return ThemeResources::getBrush(Words::variable(nameOf(brush), enabled));
     });
 }
 
@@ -60,7 +61,7 @@ const QColor &themeColor(ColorName color, bool enabled)
     static ProcessCached<VariableTable<QColor, colorCount>> table(
         [] { return VariableTable<QColor, colorCount>(); });
     return table.value().value(static_cast<std::size_t>(color), enabled, [color, enabled] {
-        return BaseStyle::getColor(nameOf(color), enabled);
+        return ThemeResources::getColor(Words::variable(nameOf(color), enabled));
     });
 }
 

@@ -10,6 +10,14 @@ constexpr QLatin1String brush = word("Brush");
 
 } // namespace
 
+QString variable(QString name, bool enabled)
+{
+    if (!enabled) {
+        name += disabled;
+    }
+    return name;
+}
+
 QString buttonBrush(const QString &toggleWord, const QString &kind, const QString &state,
                     QLatin1String field)
 {

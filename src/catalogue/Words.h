@@ -45,6 +45,9 @@ inline constexpr std::array fields{background, border, foreground};
 /// What the name of a disabled twin ends with.
 inline constexpr QLatin1String disabled = word("Disabled");
 
+/// Returns \a name, or the name of its disabled twin unless \a enabled.
+QString variable(QString name, bool enabled);
+
 /// Returns the name of the brush that paints the \a field of a button, say
 /// "ToggleButtonPrimaryCheckedHoverBorderBrush". \a toggleWord and \a kind may be empty.
 QString buttonBrush(const QString &toggleWord, const QString &kind, const QString &state,

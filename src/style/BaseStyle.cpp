@@ -3,16 +3,27 @@
 #include "catalogue/Names.h"
 #include "catalogue/Words.h"
 #include "resources/ThemeResources.h"
-#include "resources/kept/ProcessCache.h"
 #include "style/ComboBoxDefaultItemDelegate.h"
-#include "style/drawing/Drawing.h"
+#include "style/asking/Backgrounds.h"
+#include "style/brushes/ButtonBrushChoice.h"
+#include "style/brushes/KeptBrushes.h"
+#include "style/brushes/LabelBrushes.h"
+#include "style/drawing/Grips.h"
+#include "style/drawing/Marks.h"
+#include "style/drawing/Palettes.h"
+#include "style/drawing/Shapes.h"
+#include "style/families/TitleBars.h"
+#include "style/families/buttons/ButtonGroups.h"
+#include "style/families/buttons/ToolButtons.h"
 #include "style/families/item_views/ItemViews.h"
 #include "style/tables/Geometry.h"
 #include "style/tables/Metrics.h"
 #include "style/tables/Painting.h"
 #include "style/tables/Polishing.h"
+#include "style/tables/StandardIcons.h"
 #include "style/text/SingleLine.h"
-#include "style/watching/UnderlinedKeys.h"
+#include "style/watching/AltKey.h"
+#include "style/watching/EventFilter.h"
 
 #include <QtGui/QPainter>
 #include <QtWidgets/QStyleOption>
@@ -24,27 +35,6 @@
 namespace TARN {
 
 namespace {
-
-/// How much the edges of the border palettes differ from those of the palette they are made of.
-constexpr int edgeContrast = 115;
-
-QString variableName(QString name, bool enabled)
-{
-    if (!enabled) {
-        name += Words::disabled;
-    }
-    return name;
-}
-
-/// Returns the brush \a Name, resolved once for each state. Each instance of this template keeps
-/// the two brushes of one name.
-template <BrushName Name>
-const QBrush &keptBrush(bool enabled)
-{
-    static ProcessCached<QBrush> enabledBrush([] { return themeBrush(Name, true); });
-    static ProcessCached<QBrush> disabledBrush([] { return themeBrush(Name, false); });
-    return enabled ? enabledBrush.value() : disabledBrush.value();
-}
 
 /// The combo boxes that use a delegate of \a style get one of their own.
 void replaceDelegates(const BaseStyle &style)
@@ -61,12 +51,22 @@ void replaceDelegates(const BaseStyle &style)
 
 } // namespace
 
+/// What a style keeps.
+class BaseStyle::State
+{
+public:
+    QPalette palette;
+    AltKey altKey;
+};
+
 BaseStyle::BaseStyle()
     : QProxyStyle(QStringLiteral("fusion"))
-    , m_palette(baseStyle()->standardPalette())
-    , m_expanderHeaderBrush(themeBrush(BrushName::ExpanderHeaderBrush, true))
-    , m_backgroundBrush(themeBrush(BrushName::BackgroundBrush, true))
+    , m_state(std::make_unique<State>())
 {
+    m_state->palette = baseStyle()->standardPalette();
+    // These are looked up when a style is made, whether or not anything is painted with them.
+    themeBrush(BrushName::ExpanderHeaderBrush, true);
+    themeBrush(BrushName::BackgroundBrush, true);
 }
 
 BaseStyle::~BaseStyle()
@@ -76,26 +76,26 @@ BaseStyle::~BaseStyle()
 
 const QPalette &BaseStyle::getPalette() const
 {
-    return m_palette;
+    return m_state->palette;
 }
 
 void BaseStyle::setPalette(const QPalette &palette)
 {
-    if (palette == m_palette) {
+    if (palette == m_state->palette) {
         return;
     }
-    m_palette = palette;
-    Q_EMIT paletteChanged(m_palette);
+    m_state->palette = palette;
+    Q_EMIT paletteChanged(m_state->palette);
 }
 
 QPalette BaseStyle::standardPalette() const
 {
-    return m_palette;
+    return m_state->palette;
 }
 
 void BaseStyle::polish(QPalette &pal)
 {
-    pal = m_palette;
+    pal = m_state->palette;
 }
 
 void BaseStyle::polish(QWidget *widget)
@@ -136,7 +136,7 @@ int BaseStyle::styleHint(StyleHint hint, const QStyleOption *option, const QWidg
     const int answer = QProxyStyle::styleHint(hint, option, widget, returnData);
     // What nobody sees has nothing to hide.
     if (hint == SH_UnderlineShortcut && answer != 0 && widget && widget->isVisible()) {
-        return areMnemonicsUnderlined(*this, *widget) ? answer : 0;
+        return m_state->altKey.underlines(*widget) ? answer : 0;
     }
     return answer;
 }
@@ -148,7 +148,7 @@ void BaseStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *opti
         return;
     }
     const PaintRule rule = paintRule(paintedPrimitives(), element);
-    if (!rule || !paint(rule, *this, {option, painter, widget})) {
+    if (!rule || !paint(rule, {*this, option, painter, widget})) {
         QProxyStyle::drawPrimitive(element, option, painter, widget);
     }
 }
@@ -160,7 +160,7 @@ void BaseStyle::drawControl(ControlElement element, const QStyleOption *option, 
         return;
     }
     const PaintRule rule = paintRule(paintedControls(), element);
-    if (!rule || !paint(rule, *this, {option, painter, widget})) {
+    if (!rule || !paint(rule, {*this, option, painter, widget})) {
         QProxyStyle::drawControl(element, option, painter, widget);
     }
 }
@@ -172,7 +172,7 @@ void BaseStyle::drawComplexControl(ComplexControl control, const QStyleOptionCom
         return;
     }
     const PaintRule rule = paintRule(paintedComplexControls(), control);
-    if (!rule || !paint(rule, *this, {option, painter, widget})) {
+    if (!rule || !paint(rule, {*this, option, painter, widget})) {
         QProxyStyle::drawComplexControl(control, option, painter, widget);
     }
 }
@@ -200,7 +200,7 @@ void BaseStyle::drawText(QPainter *painter, const QRect &rect, int flags, const 
     if (textRole != QPalette::NoRole) {
         painter->setPen(outlinePen(palette.brush(textRole)));
     }
-    const bool isDrawn = isPlain && drawLabelText(*painter, rect, flags, text);
+    const bool isDrawn = isPlain && drawSingleLine(*painter, rect, flags, text);
     painter->setPen(pen);
     if (!isDrawn) {
         QProxyStyle::drawItemText(painter, rect, flags, palette, enabled, text, textRole);
@@ -217,13 +217,13 @@ void BaseStyle::drawItemPixmap(QPainter *painter, const QRect &rect, int alignme
 QRect BaseStyle::subElementRect(SubElement element, const QStyleOption *option,
                                 const QWidget *widget) const
 {
-    ItemViews::listViewPadding(*this);
+    ItemViews::listViewPadding(*proxy());
     const SubElementRule rule = subElementRule(element);
     if (rule && !option) {
         // The base style does not look whether there is one.
         return {};
     }
-    return rule ? rule(*this, {element, option, widget})
+    return rule ? rule({*this, element, option, widget})
                 : QProxyStyle::subElementRect(element, option, widget);
 }
 
@@ -234,7 +234,7 @@ QRect BaseStyle::subControlRect(ComplexControl control, const QStyleOptionComple
     if (rule && !option) {
         return {};
     }
-    return rule ? rule(*this, {control, option, sc, widget})
+    return rule ? rule({*this, control, option, sc, widget})
                 : QProxyStyle::subControlRect(control, option, sc, widget);
 }
 
@@ -242,89 +242,149 @@ QSize BaseStyle::sizeFromContents(ContentsType type, const QStyleOption *option,
                                   const QSize &contentsSize, const QWidget *widget) const
 {
     const ContentsRule rule = option ? contentsRule(type) : nullptr;
-    return rule ? rule(*this, {type, option, contentsSize, widget})
+    return rule ? rule({*this, type, option, contentsSize, widget})
                 : QProxyStyle::sizeFromContents(type, option, contentsSize, widget);
 }
 
 const QBrush &BaseStyle::lightOutlineBrush(const QPalette &pal) const
 {
-    return pal.brush(QPalette::Current, QPalette::Midlight);
+    return TARN::lightOutlineBrush(pal);
 }
 
 QPalette BaseStyle::generateShadeBorderPalette(const QPalette &pal) const
 {
-    QPalette result = pal;
-    result.setBrush(QPalette::All, QPalette::Light, pal.light().color().lighter(edgeContrast));
-    result.setBrush(QPalette::All, QPalette::Dark, pal.dark().color().darker(edgeContrast));
-    return result;
+    return shadeBorderPalette(pal);
 }
 
 QPalette BaseStyle::generateWinBorderPalette(const QPalette &pal) const
 {
-    QPalette result = pal;
-    result.setBrush(QPalette::All, QPalette::Light, pal.light().color().lighter(edgeContrast));
-    result.setBrush(QPalette::All, QPalette::Midlight, pal.midlight().color().darker(edgeContrast));
-    // The dark edge is lightened too: a window's border is softer than a shade.
-    result.setBrush(QPalette::All, QPalette::Dark, pal.dark().color().lighter(edgeContrast));
-    return result;
+    return windowBorderPalette(pal);
 }
 
 QBrush BaseStyle::getBrush(QString name, bool enabled)
 {
-    return ThemeResources::getBrush(variableName(std::move(name), enabled));
+    return ThemeResources::getBrush(Words::variable(std::move(name), enabled));
 }
 
 QColor BaseStyle::getColor(QString name, bool enabled)
 {
-    return ThemeResources::getColor(variableName(std::move(name), enabled));
+    return ThemeResources::getColor(Words::variable(std::move(name), enabled));
 }
 
 const QBrush &BaseStyle::getBorderBrush(bool enabled)
 {
-    return keptBrush<BrushName::CardBorderBrush>(enabled);
+    return cardBorderBrush(enabled);
 }
 
 const QBrush &BaseStyle::grooveBackgroundBrush(bool enabled) const
 {
-    return keptBrush<BrushName::GrooveBackgroundBrush>(enabled);
+    return grooveBrush(enabled);
+}
+
+ButtonBrushes BaseStyle::buttonBrushes(const QStyleOption *opt, const QWidget *widget)
+{
+    return TARN::buttonBrushes(opt, widget);
 }
 
 int BaseStyle::getButtonBackgroundState(const QStyleOption &opt) const
 {
-    const bool checked = opt.state.testFlag(State_On);
-    const bool pressed = opt.state.testFlag(State_Sunken);
-    const int restingState = checked || pressed ? 1 : 0;
-    if (!opt.state.testFlag(State_Enabled) || !opt.state.testFlag(State_MouseOver) || pressed) {
-        return restingState;
-    }
-    const auto *button = qstyleoption_cast<const QStyleOptionButton *>(&opt);
-    if (button && button->features.testFlag(QStyleOptionButton::Flat)) {
-        return restingState;
-    }
-    return checked ? 1 : 2;
+    return static_cast<int>(buttonBackground(opt));
 }
 
 int BaseStyle::getTabBackgroundState(const QStyleOptionTab &opt) const
 {
-    if (opt.state.testFlag(State_Selected)) {
-        return 0;
+    return static_cast<int>(tabBackground(opt));
+}
+
+void BaseStyle::drawCheckMark(QPainter *painter, const QRect &rect, QBrush brush) const
+{
+    TARN::drawCheckMark(*painter, rect, brush);
+}
+
+void BaseStyle::drawRadioMark(QPainter *painter, const QRect &rect, QBrush brush) const
+{
+    TARN::drawRadioMark(*painter, rect, brush);
+}
+
+void BaseStyle::drawGrips(QPainter &painter, Qt::Orientation orientation, int from, int to,
+                          int across, int step, int lightSize, int darkSize) const
+{
+    TARN::drawGrips(painter, orientation, from, to, across, step, lightSize, darkSize);
+}
+
+void BaseStyle::drawButtonGroup(const QRectF &rect, QPainter *painter, const QStyleOption *option,
+                                int radius, ButtonBrushes brushes, const QWidget *widget) const
+{
+    Buttons::drawInGroup(*proxy(), rect, *painter, option, radius, brushes, widget);
+}
+
+void BaseStyle::drawToolButtonArrow(const QStyle *style, const QStyleOptionToolButton *option,
+                                    const QRect &rect, QPainter *painter,
+                                    const QWidget *widget) const
+{
+    ToolButtons::drawArrow(*style, *option, rect, *painter, widget);
+}
+
+void BaseStyle::drawTitleBarButton(QPainter *painter, const QStyleOptionTitleBar *option,
+                                   SubControl subControl, StandardPixmap standardPixmap,
+                                   const QWidget *widget) const
+{
+    TitleBars::drawButton({*this, option, painter, widget}, *option, subControl, standardPixmap);
+}
+
+template <typename ButtonOption>
+const ButtonOption *BaseStyle::commonCallButtonText(const QStyleOption *option,
+                                                    const QWidget *widget) const
+{
+    return preparedForLabel<ButtonOption>(option, widget);
+}
+
+template MOX_COMMON_THEME_EXPORT const QStyleOptionButton *
+BaseStyle::commonCallButtonText<QStyleOptionButton>(const QStyleOption *option,
+                                                    const QWidget *widget) const;
+
+QIcon BaseStyle::standardIcon(StandardPixmap sp, const QStyleOption *option,
+                              const QWidget *widget) const
+{
+    const std::optional<QIcon> own = standardIconOf(sp, option, widget, m_state->palette);
+    return own ? *own : QProxyStyle::standardIcon(sp, option, widget);
+}
+
+QPixmap BaseStyle::standardPixmap(StandardPixmap sp, const QStyleOption *option,
+                                  const QWidget *widget) const
+{
+    const std::optional<QPixmap> own = standardPixmapOf(sp);
+    return own ? *own : QProxyStyle::standardPixmap(sp, option, widget);
+}
+
+QPixmap BaseStyle::generatedIconPixmap(QIcon::Mode mode, const QPixmap &pixmap,
+                                       const QStyleOption *option) const
+{
+    return generatedPixmap(mode, pixmap, option);
+}
+
+QIcon BaseStyle::generateToolBarExpandButtonIcon(const char *const *xpm,
+                                                 const QPalette &palette) const
+{
+    return toolBarExtensionIcon(xpm, palette);
+}
+
+bool BaseStyle::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched->isWidgetType()) {
+        watch(static_cast<QWidget &>(*watched), *event, m_state->altKey);
     }
-    if (!opt.state.testFlag(State_Enabled)) {
-        return 1;
-    }
-    const bool keyboardFocus =
-        opt.state.testFlag(State_HasFocus) && opt.state.testFlag(State_KeyboardFocusChange);
-    return opt.state.testFlag(State_MouseOver) || keyboardFocus ? 2 : 1;
+    return QProxyStyle::eventFilter(watched, event);
 }
 
 bool BaseStyle::hasSeenAlt(const QWidget *w) const
 {
-    return w && m_seenAlt.contains(w->window());
+    return m_state->altKey.hasBeenSeen(w);
 }
 
 bool BaseStyle::altDown() const
 {
-    return m_altDown;
+    return m_state->altKey.isDown();
 }
 
 } // namespace TARN

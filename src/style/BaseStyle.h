@@ -1,12 +1,14 @@
 #pragma once
 
 #include <mox_common_theme_export.h>
+#include <style/brushes/ButtonBrushes.h>
 
-#include <QtCore/QList>
 #include <QtGui/QBrush>
 #include <QtGui/QColor>
 #include <QtGui/QPalette>
 #include <QtWidgets/QProxyStyle>
+
+#include <memory>
 
 class QStyleOptionTab;
 class QStyleOptionTitleBar;
@@ -32,13 +34,7 @@ public:
     };
     Q_ENUM(TARN_PixelMetric)
 
-    /// What a button is painted with. A brush of Qt::NoBrush means that none was chosen.
-    struct ButtonBrushes
-    {
-        QBrush background{Qt::NoBrush}; ///< fills the button's face
-        QBrush border{Qt::NoBrush};     ///< draws the line around the face
-        QBrush foreground{Qt::NoBrush}; ///< draws the text and tints the icon
-    };
+    using ButtonBrushes = TARN::ButtonBrushes;
 
     BaseStyle();
     /// Combo boxes that use the style's item delegate get one of their own.
@@ -187,16 +183,9 @@ Q_SIGNALS:
 private:
     void drawText(QPainter *painter, const QRect &rect, int flags, const QPalette &palette,
                   bool enabled, const QString &text, QPalette::ColorRole textRole) const;
-    void filterWidgetEvent(QWidget &widget, const QEvent &event);
-    void pressAlt(const QWidget &window);
-    void releaseAlt(const QWidget &window);
-    void forgetAlt(const QWidget &window);
 
-    QPalette m_palette;
-    QBrush m_expanderHeaderBrush;
-    QBrush m_backgroundBrush;
-    bool m_altDown = false;
-    QList<const QWidget *> m_seenAlt;
+    class State;
+    std::unique_ptr<State> m_state;
 };
 
 } // namespace TARN

@@ -1,10 +1,10 @@
 #include "style/families/Arrows.h"
 
-#include "style/BaseStyle.h"
 #include "style/asking/OptionState.h"
 #include "style/asking/Properties.h"
-#include "style/drawing/Drawing.h"
-#include "style/families/buttons/PushButtons.h"
+#include "style/brushes/ButtonBrushChoice.h"
+#include "style/brushes/LabelBrushes.h"
+#include "style/drawing/Icons.h"
 
 #include <QtWidgets/QDateTimeEdit>
 #include <QtWidgets/QScrollBar>
@@ -27,8 +27,7 @@ QBrush arrowBrush(const PaintRequest &request)
     if (isOfItem(option)) {
         return option.palette.windowText();
     }
-    return Buttons::labelBrush(BaseStyle::buttonBrushes(&option, request.widget).foreground,
-                               isEnabled(option));
+    return labelBrush(buttonBrushes(&option, request.widget).foreground, isEnabled(option));
 }
 
 /// Tells whether a widget edits a date that a calendar can be opened for.
@@ -46,14 +45,14 @@ QStyle::PixelMetric arrowMetric(const QWidget *widget)
                                                     : QStyle::PM_SmallIconSize;
 }
 
-bool drawArrow(const BaseStyle &style, const PaintRequest &request, const char *icon)
+bool drawArrow(const PaintRequest &request, const char *icon)
 {
     if (isSet(request.widget, "no menu arrow")) {
         return true;
     }
     const QRect &room = request.option->rect;
     const int wanted =
-        style.proxy()->pixelMetric(arrowMetric(request.widget), request.option, request.widget);
+        request.proxy().pixelMetric(arrowMetric(request.widget), request.option, request.widget);
     const int extent = qMin(wanted, qMin(room.width(), room.height()));
     if (extent > 0) {
         const QRect arrow =
@@ -65,25 +64,24 @@ bool drawArrow(const BaseStyle &style, const PaintRequest &request, const char *
 
 } // namespace
 
-bool drawDown(const BaseStyle &style, const PaintRequest &request)
+bool drawDown(const PaintRequest &request)
 {
-    return drawArrow(style, request,
-                     opensCalendar(request.widget) ? "view.calendar" : "chevron.down");
+    return drawArrow(request, opensCalendar(request.widget) ? "view.calendar" : "chevron.down");
 }
 
-bool drawLeft(const BaseStyle &style, const PaintRequest &request)
+bool drawLeft(const PaintRequest &request)
 {
-    return drawArrow(style, request, "chevron.left");
+    return drawArrow(request, "chevron.left");
 }
 
-bool drawRight(const BaseStyle &style, const PaintRequest &request)
+bool drawRight(const PaintRequest &request)
 {
-    return drawArrow(style, request, "chevron.right");
+    return drawArrow(request, "chevron.right");
 }
 
-bool drawUp(const BaseStyle &style, const PaintRequest &request)
+bool drawUp(const PaintRequest &request)
 {
-    return drawArrow(style, request, "chevron.up");
+    return drawArrow(request, "chevron.up");
 }
 
 } // namespace TARN::Arrows

@@ -2,11 +2,13 @@
 
 #include "catalogue/Names.h"
 #include "resources/ThemeResources.h"
-#include "style/BaseStyle.h"
 #include "style/asking/OptionState.h"
 #include "style/asking/Properties.h"
-#include "style/drawing/Drawing.h"
+#include "style/brushes/KeptBrushes.h"
+#include "style/drawing/Lines.h"
+#include "style/drawing/Shapes.h"
 #include "style/tables/Polishing.h"
+#include "style/text/WidgetFont.h"
 
 #include <QtGui/QPainter>
 #include <QtWidgets/QFrame>
@@ -136,7 +138,7 @@ void drawSeparator(QPainter &painter, const QRect &rect, const Joins &joins, con
 
 } // namespace
 
-void polishPart(BaseStyle & /*style*/, QWidget &widget)
+void polishPart(QWidget &widget)
 {
     if (isSet(&widget, "CardWidgetBase_Header") || isSet(&widget, "CardWidgetBase_Contents") ||
         isSet(&widget, "CardWidgetBase_Footer")) {
@@ -144,7 +146,7 @@ void polishPart(BaseStyle & /*style*/, QWidget &widget)
     }
 }
 
-void polishTitle(BaseStyle & /*style*/, QWidget &widget)
+void polishTitle(QWidget &widget)
 {
     if (!isSet(&widget, "CardWidgetBase_Title")) {
         return;
@@ -156,7 +158,7 @@ void polishTitle(BaseStyle & /*style*/, QWidget &widget)
     setPolishedFont(widget, isSet(widget.parent(), "minimized") ? minimizedFont : defaultFont);
 }
 
-void polishSubtitle(BaseStyle & /*style*/, QWidget &widget)
+void polishSubtitle(QWidget &widget)
 {
     if (!isSet(&widget, "CardWidgetBase_Subtitle")) {
         return;
@@ -169,14 +171,14 @@ void polishSubtitle(BaseStyle & /*style*/, QWidget &widget)
     widget.setPalette(palette);
 }
 
-void polishCard(BaseStyle & /*style*/, QWidget &widget)
+void polishCard(QWidget &widget)
 {
     widget.setProperty("BackgroundBrush", themeBrush(BrushName::ForegroundMouseOverBrush, true));
     widget.setProperty("BackgroundBrushDisabled",
                        themeBrush(BrushName::ForegroundMouseOverBrush, false));
 }
 
-bool drawPart(const BaseStyle & /*style*/, const PaintRequest &request)
+bool drawPart(const PaintRequest &request)
 {
     const Part part = partOf(request.widget);
     if (part == Part::None) {
@@ -194,14 +196,14 @@ bool drawPart(const BaseStyle & /*style*/, const PaintRequest &request)
     painter.save();
     painter.setClipRect(option.rect, Qt::IntersectClip);
     drawShape(painter, outlineOf(option.rect, joins, bordered), radius,
-              bordered ? outlinePen(BaseStyle::getBorderBrush(enabled)) : QPen(Qt::NoPen),
+              bordered ? outlinePen(cardBorderBrush(enabled)) : QPen(Qt::NoPen),
               faceOf(widget, part, enabled), straightCorners(joins));
     painter.restore();
     if (part == Part::Header) {
         drawSeparator(painter, option.rect, joins,
                       themeColor(ColorName::BackgroundUpLevel2Color, enabled));
     } else if (part == Part::Footer && bordered) {
-        drawSeparator(painter, option.rect, joins, BaseStyle::getBorderBrush(enabled));
+        drawSeparator(painter, option.rect, joins, cardBorderBrush(enabled));
     }
     return true;
 }

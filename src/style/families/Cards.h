@@ -4,19 +4,15 @@
 
 class QWidget;
 
-namespace TARN {
-class BaseStyle;
-}
-
 /// Cards and their parts, which tell what they are by properties.
 namespace TARN::Cards {
 
-void polishPart(BaseStyle &style, QWidget &widget);
-void polishTitle(BaseStyle &style, QWidget &widget);
-void polishSubtitle(BaseStyle &style, QWidget &widget);
-void polishCard(BaseStyle &style, QWidget &widget);
+void polishPart(QWidget &widget);
+void polishTitle(QWidget &widget);
+void polishSubtitle(QWidget &widget);
+void polishCard(QWidget &widget);
 
 /// Paints the ground of a header, contents or footer; anything else is none of a card's parts.
-bool drawPart(const BaseStyle &style, const PaintRequest &request);
+bool drawPart(const PaintRequest &request);
 
 } // namespace TARN::Cards

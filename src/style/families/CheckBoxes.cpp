@@ -1,11 +1,14 @@
 #include "style/families/CheckBoxes.h"
 
 #include "catalogue/Names.h"
-#include "style/BaseStyle.h"
 #include "style/asking/OptionState.h"
 #include "style/asking/Properties.h"
-#include "style/drawing/Drawing.h"
-#include "style/families/Inputs.h"
+#include "style/brushes/InputBrushes.h"
+#include "style/drawing/Focus.h"
+#include "style/drawing/Icons.h"
+#include "style/drawing/Marks.h"
+#include "style/drawing/Shapes.h"
+#include "style/text/Mnemonic.h"
 
 #include <QtCore/QtMath>
 #include <QtGui/QPainter>
@@ -38,8 +41,8 @@ QBrush borderBrush(const PaintRequest &request)
 {
     const QStyleOption &option = *request.option;
     const bool enabled = isEnabled(option);
-    if (Inputs::isInError(request.widget)) {
-        return Inputs::errorBrush(enabled);
+    if (isInError(request.widget)) {
+        return errorBrush(enabled);
     }
     const bool isStressed = isHovered(option) || hasKeyboardFocus(option);
     return isStressed && !has(option, QStyle::State_Sunken)
@@ -76,32 +79,32 @@ int roundRadius(const QRectF &rect)
     return qCeil(qMin(rect.width(), rect.height()) / 2);
 }
 
-int indicatorMetric(const BaseStyle &style, const PaintRequest &request, QStyle::PixelMetric metric)
+int indicatorMetric(const PaintRequest &request, QStyle::PixelMetric metric)
 {
-    return style.proxy()->pixelMetric(metric, request.option, request.widget);
+    return request.metric(metric);
 }
 
 /// Returns the dash that marks what is partially checked: a quarter of the indicator's width thick,
 /// and clear of the box by two pixels at both ends.
-QRect partialMarkRect(const BaseStyle &style, const PaintRequest &request)
+QRect partialMarkRect(const PaintRequest &request)
 {
     const QRect &box = request.option->rect;
-    const int width = indicatorMetric(style, request, QStyle::PM_IndicatorWidth);
-    const int height = indicatorMetric(style, request, QStyle::PM_IndicatorHeight);
+    const int width = indicatorMetric(request, QStyle::PM_IndicatorWidth);
+    const int height = indicatorMetric(request, QStyle::PM_IndicatorHeight);
     const int thickness = qRound(width * 0.25);
     // On whole pixels in the middle when it is even or odd as the box is.
     const QSize size(height - 6, thickness + (box.height() - thickness) % 2);
     return QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, size, box);
 }
 
-void drawCheckState(const BaseStyle &style, const PaintRequest &request)
+void drawCheckState(const PaintRequest &request)
 {
     const QStyleOption &option = *request.option;
     if (has(option, QStyle::State_NoChange)) {
-        drawShape(*request.painter, partialMarkRect(style, request), cornerRadius(CornerSize::Base),
+        drawShape(*request.painter, partialMarkRect(request), cornerRadius(CornerSize::Base),
                   Qt::NoPen, markBrush(option));
     } else if (has(option, QStyle::State_On)) {
-        style.drawCheckMark(request.painter, option.rect, markBrush(option));
+        drawCheckMark(*request.painter, option.rect, markBrush(option));
     }
 }
 
@@ -129,11 +132,11 @@ QRectF squareOnPixels(const QPainter &painter, const QRectF &square)
     return transform.inverted().mapRect(QRectF(corner, size));
 }
 
-QRectF knobRect(const BaseStyle &style, const PaintRequest &request, const QRectF &track)
+QRectF knobRect(const PaintRequest &request, const QRectF &track)
 {
     const QStyleOption &option = *request.option;
-    const int width = indicatorMetric(style, request, QStyle::PM_IndicatorWidth);
-    const int height = indicatorMetric(style, request, QStyle::PM_IndicatorHeight);
+    const int width = indicatorMetric(request, QStyle::PM_IndicatorWidth);
+    const int height = indicatorMetric(request, QStyle::PM_IndicatorHeight);
     // Two pixels of the track are seen around the knob, and one around a pressed one.
     const int diameter = height - (has(option, QStyle::State_Sunken) ? 4 : 6);
     const qreal offset = knobOffset(option, track.width(), width * 0.25);
@@ -142,7 +145,7 @@ QRectF knobRect(const BaseStyle &style, const PaintRequest &request, const QRect
             qreal(diameter)};
 }
 
-void drawSwitch(const BaseStyle &style, const PaintRequest &request)
+void drawSwitch(const PaintRequest &request)
 {
     constexpr int trackRadius = 8;
     const QStyleOption &option = *request.option;
@@ -153,27 +156,26 @@ void drawSwitch(const BaseStyle &style, const PaintRequest &request)
     drawShape(*request.painter, track, trackRadius, outlinePen(borderBrush(request)),
               isOn ? themeBrush(BrushName::MainBrush, enabled)
                    : themeBrush(BrushName::ControlBackgroundBrush, enabled));
-    const QRectF knob = squareOnPixels(*request.painter, knobRect(style, request, track));
+    const QRectF knob = squareOnPixels(*request.painter, knobRect(request, track));
     drawShape(*request.painter, knob, roundRadius(knob), Qt::NoPen,
               isOn ? themeBrush(BrushName::SwitchForegroundCheckedEllipseBrush, enabled)
                    : themeBrush(BrushName::SwitchEllipseBrush, enabled));
 }
 
-bool drawParts(const BaseStyle &style, const PaintRequest &request, const Parts &parts)
+bool drawParts(const PaintRequest &request, const Parts &parts)
 {
     const auto *option = qstyleoption_cast<const QStyleOptionButton *>(request.option);
     if (!option) {
         return false;
     }
-    const QStyle &proxy = *style.proxy();
+    const QStyle &proxy = request.proxy();
     QStyleOptionButton part(*option);
     part.rect = proxy.subElementRect(parts.indicatorRect, option, request.widget);
     proxy.drawPrimitive(parts.indicator, &part, request.painter, request.widget);
     part.rect = proxy.subElementRect(parts.contentsRect, option, request.widget);
     proxy.drawControl(parts.label, &part, request.painter, request.widget);
     if (has(*option, QStyle::State_HasFocus)) {
-        drawFocusRect(style, request,
-                      proxy.subElementRect(parts.focusRect, option, request.widget));
+        drawFocusRect(request, proxy.subElementRect(parts.focusRect, option, request.widget));
     }
     return true;
 }
@@ -187,72 +189,72 @@ QPixmap labelPixmap(const QStyleOptionButton &option, const QWidget *widget)
 
 } // namespace
 
-QRect indicatorRect(const BaseStyle &style, const SubElementRequest &request)
+QRect indicatorRect(const SubElementRequest &request)
 {
     const QStyleOption &option = *request.option;
     const int width =
-        style.proxy()->pixelMetric(QStyle::PM_IndicatorWidth, &option, request.widget);
+        request.proxy().pixelMetric(QStyle::PM_IndicatorWidth, &option, request.widget);
     const int height =
-        style.proxy()->pixelMetric(QStyle::PM_IndicatorHeight, &option, request.widget);
+        request.proxy().pixelMetric(QStyle::PM_IndicatorHeight, &option, request.widget);
     const int top = option.rect.y() + (option.rect.height() - height) / 2;
     return QStyle::visualRect(option.direction, option.rect,
                               QRect(option.rect.x(), top, width, height));
 }
 
-QRect contentsRect(const BaseStyle &style, const SubElementRequest &request)
+QRect contentsRect(const SubElementRequest &request)
 {
     const QStyleOption &option = *request.option;
     const QRect indicator = QStyle::visualRect(
         option.direction, option.rect,
-        style.subElementRect(QStyle::SE_CheckBoxIndicator, &option, request.widget));
+        request.style.subElementRect(QStyle::SE_CheckBoxIndicator, &option, request.widget));
     const int spacing =
-        style.proxy()->pixelMetric(QStyle::PM_CheckBoxLabelSpacing, &option, request.widget);
+        request.proxy().pixelMetric(QStyle::PM_CheckBoxLabelSpacing, &option, request.widget);
     const QRect contents(indicator.right() + spacing, option.rect.top(),
                          option.rect.width() - indicator.width() - spacing, option.rect.height());
     return QStyle::visualRect(option.direction, option.rect, contents);
 }
 
-bool drawCheckIndicator(const BaseStyle &style, const PaintRequest &request)
+bool drawCheckIndicator(const PaintRequest &request)
 {
     if (!qstyleoption_cast<const QStyleOptionButton *>(request.option)) {
         return false;
     }
     if (isSet(request.widget, "switch")) {
-        drawSwitch(style, request);
+        drawSwitch(request);
     } else {
         drawBox(request, cornerRadius(CornerSize::Base));
-        drawCheckState(style, request);
+        drawCheckState(request);
     }
     return true;
 }
 
-bool drawRadioIndicator(const BaseStyle &style, const PaintRequest &request)
+bool drawRadioIndicator(const PaintRequest &request)
 {
     const QStyleOption &option = *request.option;
     drawBox(request, roundRadius(option.rect));
     if (has(option, QStyle::State_On)) {
-        style.drawRadioMark(request.painter, option.rect, markBrush(option));
+        drawRadioMark(*request.painter, option.rect, markBrush(option));
     }
     return true;
 }
 
-bool drawCheckBox(const BaseStyle &style, const PaintRequest &request)
+bool drawCheckBox(const PaintRequest &request)
 {
-    return drawParts(style, request, checkBoxParts);
+    return drawParts(request, checkBoxParts);
 }
 
-bool drawRadioButton(const BaseStyle &style, const PaintRequest &request)
+bool drawRadioButton(const PaintRequest &request)
 {
-    return drawParts(style, request, radioButtonParts);
+    return drawParts(request, radioButtonParts);
 }
 
-bool drawLabel(const BaseStyle &style, const PaintRequest &request)
+bool drawLabel(const PaintRequest &request)
 {
     const auto *option = qstyleoption_cast<const QStyleOptionButton *>(request.option);
     if (!option) {
         return false;
     }
-    const QStyle &proxy = *style.proxy();
+    const QStyle &proxy = request.proxy();
     const Qt::Alignment side =
         QStyle::visualAlignment(option->direction, Qt::AlignLeft | Qt::AlignVCenter);
     QRect textRect = option->rect;
@@ -265,47 +267,10 @@ bool drawLabel(const BaseStyle &style, const PaintRequest &request)
         textRect = QStyle::visualRect(option->direction, option->rect, logical);
     }
     if (!option->text.isEmpty()) {
-        proxy.drawItemText(request.painter, textRect, int(side) | mnemonicFlags(style, request),
+        proxy.drawItemText(request.painter, textRect, int(side) | mnemonicFlags(request),
                            option->palette, isEnabled(*option), option->text, QPalette::WindowText);
     }
     return true;
 }
 
 } // namespace TARN::CheckBoxes
-
-namespace TARN {
-
-void BaseStyle::drawCheckMark(QPainter *painter, const QRect &rect, QBrush brush) const
-{
-    const qreal width = rect.width();
-    const qreal height = rect.height();
-    const QPointF corners[] = {{4.0, height * 0.5}, {width * 0.5, height - 3}, {width - 3.5, 4.0}};
-    QPainterPath tick(corners[0]);
-    tick.lineTo(corners[1]);
-    tick.lineTo(corners[2]);
-    tick.translate(rect.topLeft());
-
-    painter->save();
-    painter->setRenderHint(QPainter::Antialiasing);
-    painter->setPen(QPen(brush, 1.8, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
-    painter->setBrush(Qt::NoBrush);
-    painter->drawPath(tick);
-    painter->restore();
-}
-
-void BaseStyle::drawRadioMark(QPainter *painter, const QRect &rect, QBrush brush) const
-{
-    const int extent = qMin(rect.width(), rect.height());
-    const qreal radius = extent / 3.5;
-    // An odd extent counts half a pixel more, so that the dot is centred on whole coordinates.
-    const qreal shift = extent % 2 != 0 ? 0.5 : 0;
-    const QPointF center = QRectF(rect).center() + QPointF(shift, shift);
-    painter->save();
-    painter->setRenderHint(QPainter::Antialiasing);
-    painter->setPen(Qt::NoPen);
-    painter->setBrush(brush);
-    painter->drawEllipse(center, radius, radius);
-    painter->restore();
-}
-
-} // namespace TARN

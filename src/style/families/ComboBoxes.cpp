@@ -2,14 +2,17 @@
 
 #include "catalogue/Names.h"
 #include "resources/ThemeColorHelper.h"
-#include "style/BaseStyle.h"
 #include "style/ComboBoxDefaultItemDelegate.h"
 #include "style/asking/OptionState.h"
 #include "style/asking/Properties.h"
-#include "style/drawing/Drawing.h"
-#include "style/families/Inputs.h"
+#include "style/brushes/ButtonBrushChoice.h"
+#include "style/brushes/InputBrushes.h"
+#include "style/brushes/LabelBrushes.h"
+#include "style/drawing/Focus.h"
+#include "style/drawing/Icons.h"
+#include "style/drawing/Shapes.h"
 #include "style/families/buttons/PushButtons.h"
-#include "style/tables/Geometry.h"
+#include "style/text/ElidedText.h"
 
 #include <QtGui/QPainter>
 #include <QtWidgets/QComboBox>
@@ -18,13 +21,12 @@ namespace TARN::ComboBoxes {
 
 namespace {
 
-int arrowExtent(const BaseStyle &style, const SubControlRequest &request)
+int arrowExtent(const SubControlRequest &request)
 {
-    return style.proxy()->pixelMetric(QStyle::PM_MenuButtonIndicator, request.option,
-                                      request.widget);
+    return request.metric(QStyle::PM_MenuButtonIndicator);
 }
 
-QRect editFieldRect(const BaseStyle &style, const SubControlRequest &request)
+QRect editFieldRect(const SubControlRequest &request)
 {
     QRect rect = request.option->rect;
     const auto *option = qstyleoption_cast<const QStyleOptionComboBox *>(request.option);
@@ -39,34 +41,33 @@ QRect editFieldRect(const BaseStyle &style, const SubControlRequest &request)
         rect.setRight(width - height + 2);
     } else {
         rect.setLeft(rect.left() + 2);
-        rect.setRight(width - arrowExtent(style, request));
+        rect.setRight(width - arrowExtent(request));
     }
     return rect;
 }
 
-QRect arrowRect(const BaseStyle &style, const SubControlRequest &request)
+QRect arrowRect(const SubControlRequest &request)
 {
     QRect rect = request.option->rect;
-    rect.setLeft(rect.width() + 4 - qMax(rect.height(), arrowExtent(style, request)));
+    rect.setLeft(rect.width() + 4 - qMax(rect.height(), arrowExtent(request)));
     return rect;
 }
 
 /// A combo box together with its option, which is always of its type.
 struct ComboBoxRequest
 {
-    const BaseStyle &style;
     const PaintRequest &request;
     const QStyleOptionComboBox &option;
 
     QRect subControlRect(QStyle::SubControl subControl) const
     {
-        return style.proxy()->subControlRect(QStyle::CC_ComboBox, &option, subControl,
-                                             request.widget);
+        return request.proxy().subControlRect(QStyle::CC_ComboBox, &option, subControl,
+                                              request.widget);
     }
 
     void drawPrimitive(QStyle::PrimitiveElement element, const QStyleOption &part) const
     {
-        style.proxy()->drawPrimitive(element, &part, request.painter, request.widget);
+        request.draw(element, part);
     }
 };
 
@@ -82,7 +83,7 @@ QRect visualPart(const QStyleOptionComboBox &option, const QRect &rect)
 int errorMarkRoom(const ComboBoxRequest &comboBox)
 {
     constexpr int markAndMargin = 20;
-    const bool hasMark = !comboBox.option.editable && Inputs::isInError(comboBox.request.widget);
+    const bool hasMark = !comboBox.option.editable && isInError(comboBox.request.widget);
     return hasMark ? qMin(markAndMargin, comboBox.option.rect.height()) : 0;
 }
 
@@ -108,7 +109,7 @@ void drawFocusRect(const ComboBoxRequest &comboBox)
 {
     // Midway between the outline and the text.
     constexpr int margin = 2;
-    TARN::drawFocusRect(comboBox.style, comboBox.request,
+    TARN::drawFocusRect(comboBox.request,
                         comboBox.option.rect.adjusted(margin, margin, -margin, -margin));
 }
 
@@ -116,9 +117,8 @@ void drawButton(const ComboBoxRequest &comboBox)
 {
     QStyleOptionButton button;
     button.QStyleOption::operator=(comboBox.option);
-    comboBox.drawPrimitive(
-        QStyle::PE_PanelButtonCommand,
-        *comboBox.style.commonCallButtonText<QStyleOptionButton>(&button, comboBox.request.widget));
+    comboBox.drawPrimitive(QStyle::PE_PanelButtonCommand,
+                           *preparedForLabel<QStyleOptionButton>(&button, comboBox.request.widget));
     if (has(comboBox.option, QStyle::State_HasFocus)) {
         drawFocusRect(comboBox);
     }
@@ -142,7 +142,7 @@ QRect labelRect(const ComboBoxRequest &comboBox)
     QRect rect = comboBox.subControlRect(QStyle::SC_ComboBoxEditField);
     if (!comboBox.option.editable) {
         const int arrowCenter = paintedArrowRect(comboBox).center().x();
-        const int arrowReach = comboBox.style.proxy()->pixelMetric(
+        const int arrowReach = comboBox.request.proxy().pixelMetric(
             QStyle::PM_MenuButtonIndicator, &comboBox.option, comboBox.request.widget);
         rect.setRight(qMin(rect.right(), arrowCenter - arrowReach));
     }
@@ -163,7 +163,7 @@ void drawIconField(const ComboBoxRequest &comboBox, const QRect &rect)
 {
     const bool enabled = isEnabled(comboBox.option);
     QPainter &painter = *comboBox.request.painter;
-    const QBrush ground = Inputs::fieldBrush(enabled);
+    const QBrush ground = fieldBrush(enabled);
     if (ground.isOpaque()) {
         drawShape(painter, QRectF(rect).adjusted(0.5, 2.5, -0.5, -2.5),
                   cornerRadius(CornerSize::Small), outlinePen(ground), ground);
@@ -184,11 +184,12 @@ void drawLabelIcon(const ComboBoxRequest &comboBox, const QRect &rect)
         drawIconField(comboBox, rect);
     }
     const QIcon icon = ThemeColorHelper::getModifiedIconWithForegroundBrush(
-        option.currentIcon, BaseStyle::buttonBrushes(&option, widget).foreground);
+        option.currentIcon, buttonBrushes(&option, widget).foreground);
     const QPixmap pixmap =
         iconPixmap(icon, option.iconSize, isEnabled(option) ? QIcon::Normal : QIcon::Disabled,
                    QIcon::Off, widget);
-    comboBox.style.proxy()->drawItemPixmap(comboBox.request.painter, rect, Qt::AlignCenter, pixmap);
+    comboBox.request.proxy().drawItemPixmap(comboBox.request.painter, rect, Qt::AlignCenter,
+                                            pixmap);
 }
 
 /// Tells whether the text of the label only tells what could be chosen.
@@ -205,10 +206,10 @@ void drawLabelText(const ComboBoxRequest &comboBox, const QRect &rect)
     const QPalette palette =
         isPlaceholder(comboBox)
             ? option.palette
-            : Buttons::labelPalette(option, themeBrush(BrushName::ForegroundBrush, enabled));
+            : labelPalette(option, themeBrush(BrushName::ForegroundBrush, enabled));
     const Qt::Alignment side =
         QStyle::visualAlignment(option.direction, Qt::AlignLeft | Qt::AlignVCenter);
-    comboBox.style.proxy()->drawItemText(
+    comboBox.request.proxy().drawItemText(
         comboBox.request.painter, rect, int(side), palette, enabled,
         elidedText(option.fontMetrics, option.currentText, Qt::ElideRight, rect.width()),
         QPalette::ButtonText);
@@ -231,32 +232,32 @@ void drawLabelParts(const ComboBoxRequest &comboBox)
 
 } // namespace
 
-QRect subControlRect(const BaseStyle &style, const SubControlRequest &request)
+QRect subControlRect(const SubControlRequest &request)
 {
     switch (request.subControl) {
     case QStyle::SC_ComboBoxEditField:
-        return editFieldRect(style, request);
+        return editFieldRect(request);
     case QStyle::SC_ComboBoxArrow:
-        return arrowRect(style, request);
+        return arrowRect(request);
     default:
-        return baseRect(style, request);
+        return request.baseRect();
     }
 }
 
-QSize comboBoxSize(const BaseStyle &style, const ContentsRequest &request)
+QSize comboBoxSize(const ContentsRequest &request)
 {
     ContentsRequest lower = request;
     lower.contents.rheight() -= 1;
-    return {baseSize(style, request).width(), Buttons::pushButtonHeight(style, lower)};
+    return {request.baseSize().width(), Buttons::pushButtonHeight(lower)};
 }
 
-void polishDelegate(BaseStyle &style, QWidget &widget)
+void polishDelegate(QStyle &style, QWidget &widget)
 {
     auto &comboBox = static_cast<QComboBox &>(widget);
     const QAbstractItemDelegate *delegate = comboBox.itemDelegate();
     // A style that the combo box had before takes its delegates with it.
     const bool isOfFormerStyle =
-        delegate && delegate->parent() != &style && qobject_cast<BaseStyle *>(delegate->parent());
+        delegate && delegate->parent() != &style && isA(delegate->parent(), "TARN::BaseStyle");
     // The latter is what the toolkit gives combo boxes under other styles.
     const bool isDefault =
         isA(delegate, "QComboBoxDelegate") || isA(delegate, "QComboMenuDelegate");
@@ -265,22 +266,22 @@ void polishDelegate(BaseStyle &style, QWidget &widget)
     }
 }
 
-bool drawLabel(const BaseStyle &style, const PaintRequest &request)
+bool drawLabel(const PaintRequest &request)
 {
     const auto *option = qstyleoption_cast<const QStyleOptionComboBox *>(request.option);
     if (option) {
-        drawLabelParts({style, request, *option});
+        drawLabelParts({request, *option});
     }
     return option != nullptr;
 }
 
-bool drawComboBox(const BaseStyle &style, const PaintRequest &request)
+bool drawComboBox(const PaintRequest &request)
 {
     const auto *option = qstyleoption_cast<const QStyleOptionComboBox *>(request.option);
     if (!option) {
         return false;
     }
-    const ComboBoxRequest comboBox{style, request, *option};
+    const ComboBoxRequest comboBox{request, *option};
     if (option->editable) {
         drawField(comboBox);
     } else {

@@ -6,20 +6,16 @@
 
 class QWidget;
 
-namespace TARN {
-class BaseStyle;
-}
-
 /// Combo boxes.
 namespace TARN::ComboBoxes {
 
-QRect subControlRect(const BaseStyle &style, const SubControlRequest &request);
-QSize comboBoxSize(const BaseStyle &style, const ContentsRequest &request);
+QRect subControlRect(const SubControlRequest &request);
+QSize comboBoxSize(const ContentsRequest &request);
 
 /// Gives the combo box, if it has the toolkit's delegate, one that draws separators.
-void polishDelegate(BaseStyle &style, QWidget &widget);
+void polishDelegate(QStyle &style, QWidget &widget);
 
-bool drawLabel(const BaseStyle &style, const PaintRequest &request);
-bool drawComboBox(const BaseStyle &style, const PaintRequest &request);
+bool drawLabel(const PaintRequest &request);
+bool drawComboBox(const PaintRequest &request);
 
 } // namespace TARN::ComboBoxes

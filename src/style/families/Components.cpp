@@ -2,9 +2,9 @@
 
 #include "catalogue/Names.h"
 #include "resources/ThemeResources.h"
-#include "style/BaseStyle.h"
 #include "style/asking/Properties.h"
 #include "style/tables/Polishing.h"
+#include "style/text/WidgetFont.h"
 
 #include <QtGui/QPixmap>
 #include <QtWidgets/QWidget>
@@ -43,7 +43,7 @@ QList<QColor> seriesColors()
 
 } // namespace
 
-void polishContainer(BaseStyle & /*style*/, QWidget &widget)
+void polishContainer(QWidget &widget)
 {
     if (isSet(&widget, "ButtonGroupWidget_Container") ||
         isSet(&widget, "ColorButtonWidget_Container")) {
@@ -52,14 +52,14 @@ void polishContainer(BaseStyle & /*style*/, QWidget &widget)
     }
 }
 
-void polishButtonGroup(BaseStyle & /*style*/, QWidget &widget)
+void polishButtonGroup(QWidget &widget)
 {
     setBrushes(widget, "BackgroundBrush", BrushName::ListBackgroundBrush);
     setBrushes(widget, "BorderBrush", BrushName::ListBorderBrush);
     setBrushes(widget, "WorkflowLinkBrush", BrushName::PrioritySecondaryUpLevel1Brush);
 }
 
-void polishRoundedPixmap(BaseStyle & /*style*/, QWidget &widget)
+void polishRoundedPixmap(QWidget &widget)
 {
     const QVariant pixmap = widget.property("roundedPixmap");
     if (pixmap.userType() != QMetaType::QPixmap || pixmap.value<QPixmap>().isNull()) {
@@ -70,7 +70,7 @@ void polishRoundedPixmap(BaseStyle & /*style*/, QWidget &widget)
                        ThemeResources::getCornerRadius(QStringLiteral("MediumSize")));
 }
 
-void polishPill(BaseStyle & /*style*/, QWidget &widget)
+void polishPill(QWidget &widget)
 {
     if (!isSet(&widget, "Pill_Font")) {
         return;
@@ -80,7 +80,7 @@ void polishPill(BaseStyle & /*style*/, QWidget &widget)
     setPolishedFont(widget, font);
 }
 
-void polishPeriodicTable(BaseStyle & /*style*/, QWidget &widget)
+void polishPeriodicTable(QWidget &widget)
 {
     setColor(widget, "PeriodicTableDelegate_BackgroundColor", ColorName::StatusConfigColor);
     setColor(widget, "PeriodicTableDelegate_BorderColor", ColorName::StatusConfigColor);

@@ -2,10 +2,11 @@
 
 #include "catalogue/Names.h"
 #include "resources/kept/ProcessCache.h"
-#include "style/BaseStyle.h"
 #include "style/asking/OptionState.h"
-#include "style/drawing/Drawing.h"
-#include "style/families/ToolBars.h"
+#include "style/asking/Properties.h"
+#include "style/brushes/KeptBrushes.h"
+#include "style/drawing/Grips.h"
+#include "style/drawing/Lines.h"
 
 #include <QtGui/QPainter>
 #include <QtWidgets/QStyleOption>
@@ -17,31 +18,26 @@ namespace TARN::DockWidgets {
 
 namespace {
 
-using namespace ToolBars;
-
 /// The grips and what keeps the title away from them.
 constexpr int gripRoom = lightGrip + 6;
 /// Four grips across the title bar reach that far to both sides of its middle.
 constexpr int gripReach = 5;
 
-void drawGrips(const BaseStyle &style, QPainter &painter, const QStyleOptionDockWidget &title,
-               const QRect &textRect)
+void drawTitleGrips(QPainter &painter, const QStyleOptionDockWidget &title, const QRect &textRect)
 {
     const QRect &rect = title.rect;
     if (title.verticalTitleBar) {
         const int middle = rect.left() + rect.width() / 2;
-        style.drawGrips(painter, Qt::Horizontal, qMax(middle - gripReach, rect.left()),
-                        qMin(middle + gripReach, rect.right()), textRect.bottom() - lightGrip + 1,
-                        gripStep, lightGrip, darkGrip);
+        drawGrips(painter, Qt::Horizontal, qMax(middle - gripReach, rect.left()),
+                  qMin(middle + gripReach, rect.right()), textRect.bottom() - lightGrip + 1);
         return;
     }
     const int middle = rect.top() + rect.height() / 2;
     const QRect grips =
         QStyle::visualRect(title.direction, textRect,
                            QRect(textRect.left(), textRect.top(), lightGrip, textRect.height()));
-    style.drawGrips(painter, Qt::Vertical, qMax(middle - gripReach, rect.top()),
-                    qMin(middle + gripReach, rect.bottom()), grips.left(), gripStep, lightGrip,
-                    darkGrip);
+    drawGrips(painter, Qt::Vertical, qMax(middle - gripReach, rect.top()),
+              qMin(middle + gripReach, rect.bottom()), grips.left());
 }
 
 /// Returns \a textRect without the room of the grips at its start; upright titles start at the
@@ -76,8 +72,8 @@ const QFont &titleFont(const QPainter &painter, const QWidget *widget)
     return font->stressed;
 }
 
-void drawText(const BaseStyle &style, const PaintRequest &request,
-              const QStyleOptionDockWidget &title, const QRect &textRect)
+void drawText(const PaintRequest &request, const QStyleOptionDockWidget &title,
+              const QRect &textRect)
 {
     QPainter &painter = *request.painter;
     painter.save();
@@ -93,7 +89,7 @@ void drawText(const BaseStyle &style, const PaintRequest &request,
     const QString text = painter.fontMetrics().elidedText(title.title, Qt::ElideRight, rect.width(),
                                                           Qt::TextShowMnemonic);
     // The letter that chooses the dock in a menu does nothing here.
-    style.proxy()->drawItemText(
+    request.proxy().drawItemText(
         &painter, rect, int(start | Qt::AlignVCenter) | Qt::TextSingleLine | Qt::TextHideMnemonic,
         title.palette, isEnabled(title), text, QPalette::WindowText);
     painter.restore();
@@ -101,7 +97,21 @@ void drawText(const BaseStyle &style, const PaintRequest &request,
 
 } // namespace
 
-bool drawTitle(const BaseStyle &style, const PaintRequest &request)
+void polish(QWidget &widget)
+{
+    widget.setAttribute(Qt::WA_StyledBackground);
+}
+
+bool drawBackground(const PaintRequest &request)
+{
+    if (!isA(request.widget, "QDockWidget")) {
+        return false;
+    }
+    request.painter->fillRect(request.option->rect, request.option->palette.light());
+    return true;
+}
+
+bool drawTitle(const PaintRequest &request)
 {
     const auto *title = qstyleoption_cast<const QStyleOptionDockWidget *>(request.option);
     if (!title) {
@@ -111,16 +121,16 @@ bool drawTitle(const BaseStyle &style, const PaintRequest &request)
     const bool enabled = isEnabled(*title);
     painter.fillRect(title->rect, themeBrush(BrushName::BackgroundUpLevel1Brush, enabled));
     fillEdge(painter, title->rect, title->verticalTitleBar ? Qt::RightEdge : Qt::BottomEdge,
-             BaseStyle::getBorderBrush(enabled));
+             cardBorderBrush(enabled));
 
     QRect textRect =
-        style.proxy()->subElementRect(QStyle::SE_DockWidgetTitleBarText, title, request.widget);
+        request.proxy().subElementRect(QStyle::SE_DockWidgetTitleBarText, title, request.widget);
     if (title->movable && !textRect.isEmpty()) {
-        drawGrips(style, painter, *title, textRect);
+        drawTitleGrips(painter, *title, textRect);
         textRect = withoutGrips(*title, textRect);
     }
     if (!title->title.isEmpty() && !textRect.isEmpty()) {
-        drawText(style, request, *title, textRect);
+        drawText(request, *title, textRect);
     }
     return true;
 }

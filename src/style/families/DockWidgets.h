@@ -2,13 +2,12 @@
 
 #include "style/asking/Requests.h"
 
-namespace TARN {
-class BaseStyle;
-}
-
 /// Dock widgets.
 namespace TARN::DockWidgets {
 
-bool drawTitle(const BaseStyle &style, const PaintRequest &request);
+void polish(QWidget &widget);
+/// Paints the ground of a dock; anything else is none.
+bool drawBackground(const PaintRequest &request);
+bool drawTitle(const PaintRequest &request);
 
 } // namespace TARN::DockWidgets

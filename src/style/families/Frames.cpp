@@ -4,10 +4,12 @@
 #include "common_utils/DashedOutline.h"
 #include "resources/ThemeResources.h"
 #include "resources/kept/ProcessCache.h"
-#include "style/BaseStyle.h"
 #include "style/asking/OptionState.h"
 #include "style/asking/Properties.h"
-#include "style/drawing/Drawing.h"
+#include "style/brushes/KeptBrushes.h"
+#include "style/drawing/Lines.h"
+#include "style/drawing/Palettes.h"
+#include "style/drawing/Shapes.h"
 
 #include <QtGui/QPainter>
 #include <QtWidgets/QFrame>
@@ -68,9 +70,9 @@ void drawPlain(QPainter &painter, const QStyleOptionFrame &frame, const QWidget 
 }
 
 /// Draws a ridge or a groove.
-void drawBox(const BaseStyle &style, QPainter &painter, const QStyleOptionFrame &frame)
+void drawBox(QPainter &painter, const QStyleOptionFrame &frame)
 {
-    const QPalette palette = style.generateShadeBorderPalette(frame.palette);
+    const QPalette palette = shadeBorderPalette(frame.palette);
     const bool isSunken = shadowOf(frame) == Shadow::Sunken;
     const QBrush &first = isSunken ? palette.dark() : palette.light();
     const QBrush &second = isSunken ? palette.light() : palette.dark();
@@ -79,18 +81,18 @@ void drawBox(const BaseStyle &style, QPainter &painter, const QStyleOptionFrame 
     drawBorder(painter, rect, frame.lineWidth, second, first);
 }
 
-void drawPanel(const BaseStyle &style, QPainter &painter, const QStyleOptionFrame &frame)
+void drawPanel(QPainter &painter, const QStyleOptionFrame &frame)
 {
-    const QPalette palette = style.generateShadeBorderPalette(frame.palette);
+    const QPalette palette = shadeBorderPalette(frame.palette);
     const bool isSunken = shadowOf(frame) == Shadow::Sunken;
     drawBorder(painter, frame.rect, frame.lineWidth, isSunken ? palette.dark() : palette.light(),
                isSunken ? palette.light() : palette.dark());
 }
 
 /// Draws a panel whose outer and inner edge are one line each.
-void drawWinPanel(const BaseStyle &style, QPainter &painter, const QStyleOptionFrame &frame)
+void drawWinPanel(QPainter &painter, const QStyleOptionFrame &frame)
 {
-    const QPalette palette = style.generateWinBorderPalette(frame.palette);
+    const QPalette palette = windowBorderPalette(frame.palette);
     if (shadowOf(frame) == Shadow::Sunken) {
         const QRect inside = drawBorder(painter, frame.rect, 1, palette.dark(), palette.light());
         drawBorder(painter, inside, 1, palette.shadow(), palette.midlight());
@@ -110,11 +112,10 @@ void drawLine(QPainter &painter, const QStyleOptionFrame &frame)
         isHorizontal
             ? QRect(rect.left(), rect.top() + (rect.height() - width) / 2, rect.width(), width)
             : QRect(rect.left() + (rect.width() - width) / 2, rect.top(), width, rect.height());
-    painter.fillRect(line, BaseStyle::getBorderBrush(isEnabled(frame)));
+    painter.fillRect(line, cardBorderBrush(isEnabled(frame)));
 }
 
-using ShadedFrame = void (*)(const BaseStyle &style, QPainter &painter,
-                             const QStyleOptionFrame &frame);
+using ShadedFrame = void (*)(QPainter &painter, const QStyleOptionFrame &frame);
 
 /// Returns what draws frames with a shadow; null when the shape has none.
 ShadedFrame shadedFrame(QFrame::Shape shape)
@@ -133,7 +134,7 @@ ShadedFrame shadedFrame(QFrame::Shape shape)
 
 } // namespace
 
-bool drawFocusRect(const BaseStyle & /*style*/, const PaintRequest &request)
+bool drawFocusRect(const PaintRequest &request)
 {
     if (!qstyleoption_cast<const QStyleOptionFocusRect *>(request.option)) {
         return false;
@@ -146,7 +147,7 @@ bool drawFocusRect(const BaseStyle & /*style*/, const PaintRequest &request)
     return true;
 }
 
-bool drawRubberBand(const BaseStyle & /*style*/, const PaintRequest &request)
+bool drawRubberBand(const PaintRequest &request)
 {
     const auto *band = qstyleoption_cast<const QStyleOptionRubberBand *>(request.option);
     if (!band) {
@@ -165,7 +166,7 @@ bool drawRubberBand(const BaseStyle & /*style*/, const PaintRequest &request)
     return true;
 }
 
-bool drawShapedFrame(const BaseStyle &style, const PaintRequest &request)
+bool drawShapedFrame(const PaintRequest &request)
 {
     const auto *frame = qstyleoption_cast<const QStyleOptionFrame *>(request.option);
     if (!frame) {
@@ -179,9 +180,9 @@ bool drawShapedFrame(const BaseStyle &style, const PaintRequest &request)
     if (drawShaded && shadowOf(*frame) == Shadow::Plain) {
         drawPlain(painter, *frame, request.widget);
     } else if (drawShaded) {
-        drawShaded(style, painter, *frame);
+        drawShaded(painter, *frame);
     } else if (frame->frameShape == QFrame::StyledPanel) {
-        style.proxy()->drawPrimitive(QStyle::PE_Frame, frame, &painter, request.widget);
+        request.proxy().drawPrimitive(QStyle::PE_Frame, frame, &painter, request.widget);
     } else if (frame->frameShape != QFrame::NoFrame) {
         drawLine(painter, *frame);
     }

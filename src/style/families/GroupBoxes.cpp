@@ -1,8 +1,9 @@
 #include "style/families/GroupBoxes.h"
 
-#include "style/BaseStyle.h"
 #include "style/asking/OptionState.h"
-#include "style/drawing/Drawing.h"
+#include "style/brushes/KeptBrushes.h"
+#include "style/drawing/Lines.h"
+#include "style/drawing/Shapes.h"
 
 #include <QtGui/QPainter>
 #include <QtWidgets/QGroupBox>
@@ -22,7 +23,7 @@ bool isFlat(const QStyleOption &option)
 }
 
 /// Returns what the title and the check box of a group box occupy; nothing when it has none.
-QRect titleRect(const BaseStyle &style, const PaintRequest &request)
+QRect titleRect(const PaintRequest &request)
 {
     const auto *groupBox = qobject_cast<const QGroupBox *>(request.widget);
     if (!groupBox || (groupBox->title().isEmpty() && !groupBox->isCheckable())) {
@@ -36,7 +37,7 @@ QRect titleRect(const BaseStyle &style, const PaintRequest &request)
     option.subControls = QStyle::SC_GroupBoxLabel;
     option.subControls.setFlag(QStyle::SC_GroupBoxCheckBox, groupBox->isCheckable());
     const auto rectOf = [&](QStyle::SubControl subControl) {
-        return style.proxy()->subControlRect(QStyle::CC_GroupBox, &option, subControl, groupBox);
+        return request.proxy().subControlRect(QStyle::CC_GroupBox, &option, subControl, groupBox);
     };
     const QRect label = option.text.isEmpty() ? QRect() : rectOf(QStyle::SC_GroupBoxLabel);
     const QRect checkBox = groupBox->isCheckable() ? rectOf(QStyle::SC_GroupBoxCheckBox) : QRect();
@@ -88,10 +89,10 @@ void drawClipped(QPainter &painter, const QRegion &region, Draw draw)
 
 } // namespace
 
-QRect subControlRect(const BaseStyle &style, const SubControlRequest &request)
+QRect subControlRect(const SubControlRequest &request)
 {
-    const QRect rect = style.QCommonStyle::subControlRect(request.control, request.option,
-                                                          request.subControl, request.widget);
+    const QRect rect = request.style.QCommonStyle::subControlRect(
+        request.control, request.option, request.subControl, request.widget);
     const auto *option = qstyleoption_cast<const QStyleOptionGroupBox *>(request.option);
     const bool isCheckable = option && option->subControls.testFlag(QStyle::SC_GroupBoxCheckBox);
     if (request.subControl != QStyle::SC_GroupBoxLabel || !isCheckable) {
@@ -100,13 +101,13 @@ QRect subControlRect(const BaseStyle &style, const SubControlRequest &request)
     return {rect.x() + 1, rect.y(), rect.width() + 1, rect.height()};
 }
 
-bool drawFrame(const BaseStyle &style, const PaintRequest &request)
+bool drawFrame(const PaintRequest &request)
 {
     const QStyleOption &option = *request.option;
     QPainter &painter = *request.painter;
-    const QBrush &border = BaseStyle::getBorderBrush(isEnabled(option));
+    const QBrush &border = cardBorderBrush(isEnabled(option));
     const auto draw = isFlat(option) ? drawRule : drawOutline;
-    const QRect title = titleRect(style, request);
+    const QRect title = titleRect(request);
     if (!title.intersects(option.rect)) {
         draw(painter, option.rect, border);
         return true;

@@ -4,15 +4,11 @@
 
 #include <QtCore/QRect>
 
-namespace TARN {
-class BaseStyle;
-}
-
 /// Group boxes.
 namespace TARN::GroupBoxes {
 
-QRect subControlRect(const BaseStyle &style, const SubControlRequest &request);
+QRect subControlRect(const SubControlRequest &request);
 
-bool drawFrame(const BaseStyle &style, const PaintRequest &request);
+bool drawFrame(const PaintRequest &request);
 
 } // namespace TARN::GroupBoxes

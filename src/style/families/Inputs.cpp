@@ -1,13 +1,13 @@
 #include "style/families/Inputs.h"
 
-#include "catalogue/ComposedBrushes.h"
 #include "catalogue/Names.h"
-#include "style/BaseStyle.h"
 #include "style/asking/OptionState.h"
 #include "style/asking/Properties.h"
-#include "style/drawing/Drawing.h"
+#include "style/brushes/ButtonBrushChoice.h"
+#include "style/brushes/InputBrushes.h"
+#include "style/brushes/KeptBrushes.h"
+#include "style/drawing/Shapes.h"
 #include "style/families/buttons/PushButtons.h"
-#include "style/tables/Geometry.h"
 #include "style/watching/ButtonIcons.h"
 
 #include <QtGui/QPainter>
@@ -60,27 +60,27 @@ QBrush frameGround(const PaintRequest &request)
     // A combo box whose list is open looks like that whether it can be edited or not.
     const bool isListOpen = has(*request.option, QStyle::State_On);
     if (isListOpen && qobject_cast<const QComboBox *>(request.widget)) {
-        return BaseStyle::buttonBrushes(request.option, request.widget).background;
+        return buttonBrushes(request.option, request.widget).background;
     }
     return fieldBrush(isEnabled(*request.option));
 }
 
 /// Returns what the error mark has to itself: the arrow of a combo box stands beside it.
-QRect errorMarkArea(const BaseStyle &style, const PaintRequest &request)
+QRect errorMarkArea(const PaintRequest &request)
 {
     const auto *comboBox = qstyleoption_cast<const QStyleOptionComboBox *>(request.option);
-    return comboBox ? style.proxy()->subControlRect(QStyle::CC_ComboBox, comboBox,
-                                                    QStyle::SC_ComboBoxEditField, request.widget)
+    return comboBox ? request.proxy().subControlRect(QStyle::CC_ComboBox, comboBox,
+                                                     QStyle::SC_ComboBoxEditField, request.widget)
                     : request.option->rect;
 }
 
-void drawErrorMark(const BaseStyle &style, const PaintRequest &request)
+void drawErrorMark(const PaintRequest &request)
 {
     QPainter &painter = *request.painter;
     const Qt::LayoutDirection direction = painter.layoutDirection();
     painter.setLayoutDirection(request.option->direction);
     Helpers::drawInputStatusIndicator(
-        errorMarkArea(style, request), cornerRadius(CornerSize::Base),
+        errorMarkArea(request), cornerRadius(CornerSize::Base),
         themeColor(ColorName::StatusDangerColor, isEnabled(*request.option)), &painter);
     painter.setLayoutDirection(direction);
 }
@@ -145,50 +145,34 @@ void drawPanel(const PaintRequest &request, bool hasFrame)
 
 } // namespace
 
-QSize lineEditSize(const BaseStyle &style, const ContentsRequest &request)
+QSize lineEditSize(const ContentsRequest &request)
 {
-    return {baseSize(style, request).width(), Buttons::pushButtonHeight(style, request)};
+    return {request.baseSize().width(), Buttons::pushButtonHeight(request)};
 }
 
-void polishClearButton(BaseStyle &style, QWidget &widget)
+void polishClearButton(QStyle &style, QWidget &widget)
 {
     tintOnPaint(style, widget);
 }
 
-QBrush fieldBrush(bool enabled)
-{
-    return composedBrush(ComposedWidget::Input, KindWord(), StateWord(), BrushField::Background,
-                         enabled);
-}
-
-bool isInError(const QWidget *widget)
-{
-    return isSet(widget, "drawErrorIndicator");
-}
-
-QBrush errorBrush(bool enabled)
-{
-    return themeColor(ColorName::StatusDangerColor, enabled);
-}
-
-bool drawFrame(const BaseStyle &style, const PaintRequest &request)
+bool drawFrame(const PaintRequest &request)
 {
     const QStyleOption &option = *request.option;
     if (isTextEdit(request.widget)) {
-        return drawLineEditFrame(style, request);
+        return drawLineEditFrame(request);
     }
     if (isA(request.widget, "QComboBoxPrivateContainer")) {
         QStyleOption panel(option);
         panel.state |= QStyle::State_Raised;
-        style.proxy()->drawPrimitive(QStyle::PE_PanelMenu, &panel, request.painter, request.widget);
+        request.draw(QStyle::PE_PanelMenu, panel);
         return true;
     }
     drawShape(*request.painter, onHalfPixel(option.rect), 0,
-              outlinePen(BaseStyle::getBorderBrush(isEnabled(option))), Qt::NoBrush);
+              outlinePen(cardBorderBrush(isEnabled(option))), Qt::NoBrush);
     return true;
 }
 
-bool drawLineEditFrame(const BaseStyle &style, const PaintRequest &request)
+bool drawLineEditFrame(const PaintRequest &request)
 {
     // The page of a text edit has square corners, which would cut off round ones of its frame.
     const bool isSquare = isTextEdit(request.widget);
@@ -196,12 +180,12 @@ bool drawLineEditFrame(const BaseStyle &style, const PaintRequest &request)
               isSquare ? 0 : cornerRadius(CornerSize::Base), framePen(request),
               frameGround(request));
     if (isInError(request.widget)) {
-        drawErrorMark(style, request);
+        drawErrorMark(request);
     }
     return true;
 }
 
-bool drawLineEditPanel(const BaseStyle &style, const PaintRequest &request)
+bool drawLineEditPanel(const PaintRequest &request)
 {
     const auto *option = qstyleoption_cast<const QStyleOptionFrame *>(request.option);
     if (!option) {
@@ -212,8 +196,7 @@ bool drawLineEditPanel(const BaseStyle &style, const PaintRequest &request)
     if (hasFrame) {
         QStyleOptionFrame frame(*option);
         frame.features |= liesOnPanel;
-        style.proxy()->drawPrimitive(QStyle::PE_FrameLineEdit, &frame, request.painter,
-                                     request.widget);
+        request.draw(QStyle::PE_FrameLineEdit, frame);
     }
     return true;
 }

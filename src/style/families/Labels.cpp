@@ -1,13 +1,12 @@
 #include "style/families/Labels.h"
 
 #include "catalogue/Names.h"
-#include "style/BaseStyle.h"
 
 #include <QtWidgets/QWidget>
 
 namespace TARN::Labels {
 
-void polishDisabledText(BaseStyle & /*style*/, QWidget &widget)
+void polishDisabledText(QWidget &widget)
 {
     QPalette palette = widget.palette();
     palette.setBrush(QPalette::Disabled, QPalette::WindowText,

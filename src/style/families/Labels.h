@@ -2,13 +2,9 @@
 
 class QWidget;
 
-namespace TARN {
-class BaseStyle;
-}
-
 /// Labels.
 namespace TARN::Labels {
 
-void polishDisabledText(BaseStyle &style, QWidget &widget);
+void polishDisabledText(QWidget &widget);
 
 } // namespace TARN::Labels

@@ -1,11 +1,11 @@
 #include "style/families/ProgressBars.h"
 
 #include "catalogue/Names.h"
-#include "style/BaseStyle.h"
 #include "style/asking/OptionState.h"
-#include "style/drawing/Drawing.h"
+#include "style/brushes/KeptBrushes.h"
+#include "style/drawing/Shapes.h"
 #include "style/families/BusyAnimation.h"
-#include "style/tables/Geometry.h"
+#include "style/families/tabs/TabSides.h"
 
 #include <QtGui/QPainter>
 #include <QtWidgets/QProgressBar>
@@ -97,7 +97,7 @@ QBrush chunkBrush(const QStyleOptionProgressBar &bar)
 void fillPart(QPainter &painter, const QStyleOptionProgressBar &bar, const QRect &part,
               const QBrush &brush)
 {
-    const QPen pen = outlinePen(BaseStyle::getBorderBrush(isEnabled(bar)));
+    const QPen pen = outlinePen(cardBorderBrush(isEnabled(bar)));
     const int radius = cornerRadius(CornerSize::Base);
     if (part == bar.rect) {
         drawShape(painter, onHalfPixel(bar.rect), radius, pen, brush);
@@ -109,26 +109,25 @@ void fillPart(QPainter &painter, const QStyleOptionProgressBar &bar, const QRect
     painter.restore();
 }
 
-bool isAnimated(const BaseStyle &style, const PaintRequest &request)
+bool isAnimated(const PaintRequest &request)
 {
-    const QStyle &proxy = *style.proxy();
+    const QStyle &proxy = request.proxy();
     return proxy.styleHint(QStyle::SH_Widget_Animate, request.option, request.widget) != 0 &&
            proxy.styleHint(QStyle::SH_Widget_Animation_Duration, request.option, request.widget) >
                0;
 }
 
 /// Returns how far the chunk of a busy bar has got. Only what is on the screen moves.
-qreal busyPosition(const BaseStyle &style, const PaintRequest &request)
+qreal busyPosition(const PaintRequest &request)
 {
     auto *bar = qobject_cast<QProgressBar *>(request.option->styleObject);
-    if (!bar || bar != request.widget || !bar->isVisible() || !isAnimated(style, request)) {
+    if (!bar || bar != request.widget || !bar->isVisible() || !isAnimated(request)) {
         return restingPosition;
     }
     return BusyAnimation::painted(*bar).position();
 }
 
-void drawBusy(const BaseStyle &style, const PaintRequest &request,
-              const QStyleOptionProgressBar &bar)
+void drawBusy(const PaintRequest &request, const QStyleOptionProgressBar &bar)
 {
     const QBrush brush = chunkBrush(bar);
     QColor tint = brush.style() == Qt::SolidPattern
@@ -138,13 +137,13 @@ void drawBusy(const BaseStyle &style, const PaintRequest &request,
     fillPart(*request.painter, bar, bar.rect, tint);
     const int full = extent(bar);
     const int length = qMin(full, qMax(1, int(busyShare * full)));
-    const int from = qRound(busyPosition(style, request) * (full - length));
+    const int from = qRound(busyPosition(request) * (full - length));
     fillPart(*request.painter, bar, partOf(bar, from, length), brush);
 }
 
 /// Draws the text where it lies in \a part of the bar.
-void drawTextIn(const BaseStyle &style, const PaintRequest &request,
-                const QStyleOptionProgressBar &bar, const QRect &part, QPalette::ColorRole role)
+void drawTextIn(const PaintRequest &request, const QStyleOptionProgressBar &bar, const QRect &part,
+                QPalette::ColorRole role)
 {
     if (part.isEmpty()) {
         return;
@@ -159,16 +158,16 @@ void drawTextIn(const BaseStyle &style, const PaintRequest &request,
                                           : QPoint(bar.rect.right() + 1, bar.rect.top()));
         painter.rotate(bar.bottomToTop ? -90.0 : 90.0);
     }
-    style.proxy()->drawItemText(&painter, rect, Qt::AlignCenter | Qt::TextSingleLine, bar.palette,
-                                isEnabled(bar), bar.text, role);
+    request.proxy().drawItemText(&painter, rect, Qt::AlignCenter | Qt::TextSingleLine, bar.palette,
+                                 isEnabled(bar), bar.text, role);
     painter.restore();
 }
 
 } // namespace
 
-QSize progressBarSize(const BaseStyle &style, const ContentsRequest &request)
+QSize progressBarSize(const ContentsRequest &request)
 {
-    const QSize size = baseSize(style, request);
+    const QSize size = request.baseSize();
     const auto *option = qstyleoption_cast<const QStyleOptionProgressBar *>(request.option);
     if (!option) {
         return size;
@@ -179,12 +178,12 @@ QSize progressBarSize(const BaseStyle &style, const ContentsRequest &request)
                                                                : QSize(0, thickness));
 }
 
-void polish(BaseStyle & /*style*/, QWidget &widget)
+void polish(QWidget &widget)
 {
     static_cast<QProgressBar &>(widget).setTextDirection(QProgressBar::BottomToTop);
 }
 
-bool drawGroove(const BaseStyle &style, const PaintRequest &request)
+bool drawGroove(const PaintRequest &request)
 {
     const auto *bar = qstyleoption_cast<const QStyleOptionProgressBar *>(request.option);
     if (!bar) {
@@ -192,25 +191,25 @@ bool drawGroove(const BaseStyle &style, const PaintRequest &request)
     }
     const bool enabled = isEnabled(*bar);
     drawShape(*request.painter, onHalfPixel(bar->rect), cornerRadius(CornerSize::Base),
-              outlinePen(BaseStyle::getBorderBrush(enabled)), style.grooveBackgroundBrush(enabled));
+              outlinePen(cardBorderBrush(enabled)), grooveBrush(enabled));
     return true;
 }
 
-bool drawContents(const BaseStyle &style, const PaintRequest &request)
+bool drawContents(const PaintRequest &request)
 {
     const auto *bar = qstyleoption_cast<const QStyleOptionProgressBar *>(request.option);
     if (!bar) {
         return false;
     }
     if (isBusy(*bar)) {
-        drawBusy(style, request, *bar);
+        drawBusy(request, *bar);
     } else if (const int length = filledLength(*bar); length > 0) {
         fillPart(*request.painter, *bar, partOf(*bar, 0, length), chunkBrush(*bar));
     }
     return true;
 }
 
-bool drawLabel(const BaseStyle &style, const PaintRequest &request)
+bool drawLabel(const PaintRequest &request)
 {
     const auto *bar = qstyleoption_cast<const QStyleOptionProgressBar *>(request.option);
     if (!bar) {
@@ -218,9 +217,8 @@ bool drawLabel(const BaseStyle &style, const PaintRequest &request)
     }
     if (!bar->text.isEmpty()) {
         const int filled = filledLength(*bar);
-        drawTextIn(style, request, *bar, partOf(*bar, 0, filled), QPalette::HighlightedText);
-        drawTextIn(style, request, *bar, partOf(*bar, filled, extent(*bar) - filled),
-                   QPalette::Text);
+        drawTextIn(request, *bar, partOf(*bar, 0, filled), QPalette::HighlightedText);
+        drawTextIn(request, *bar, partOf(*bar, filled, extent(*bar) - filled), QPalette::Text);
     }
     return true;
 }

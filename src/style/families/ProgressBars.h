@@ -6,19 +6,15 @@
 
 class QWidget;
 
-namespace TARN {
-class BaseStyle;
-}
-
 /// Progress bars.
 namespace TARN::ProgressBars {
 
-QSize progressBarSize(const BaseStyle &style, const ContentsRequest &request);
+QSize progressBarSize(const ContentsRequest &request);
 
-void polish(BaseStyle &style, QWidget &widget);
+void polish(QWidget &widget);
 
-bool drawGroove(const BaseStyle &style, const PaintRequest &request);
-bool drawContents(const BaseStyle &style, const PaintRequest &request);
-bool drawLabel(const BaseStyle &style, const PaintRequest &request);
+bool drawGroove(const PaintRequest &request);
+bool drawContents(const PaintRequest &request);
+bool drawLabel(const PaintRequest &request);
 
 } // namespace TARN::ProgressBars

@@ -1,11 +1,12 @@
 #include "style/families/ScrollBars.h"
 
 #include "catalogue/Names.h"
-#include "style/BaseStyle.h"
 #include "style/asking/OptionState.h"
 #include "style/asking/Properties.h"
-#include "style/drawing/Drawing.h"
-#include "style/tables/Geometry.h"
+#include "style/brushes/ButtonBrushChoice.h"
+#include "style/brushes/KeptBrushes.h"
+#include "style/drawing/Focus.h"
+#include "style/drawing/Shapes.h"
 
 #include <QtGui/QPainter>
 #include <QtWidgets/QAbstractScrollArea>
@@ -53,17 +54,14 @@ int scrollAreaFrameWidth(const QWidget *widget)
 }
 
 /// The base style leaves room for buttons at both ends, which the slider takes.
-QRect minimizedSliderRect(const BaseStyle &style, const SubControlRequest &request,
-                          Qt::Orientation orientation)
+QRect minimizedSliderRect(const SubControlRequest &request, Qt::Orientation orientation)
 {
-    const bool isTransient = style.proxy()->styleHint(QStyle::SH_ScrollBar_Transient,
-                                                      request.option, request.widget) != 0;
-    const int extent = isTransient ? 0
-                                   : style.proxy()->pixelMetric(QStyle::PM_ScrollBarExtent,
-                                                                request.option, request.widget);
+    const bool isTransient = request.proxy().styleHint(QStyle::SH_ScrollBar_Transient,
+                                                       request.option, request.widget) != 0;
+    const int extent = isTransient ? 0 : request.metric(QStyle::PM_ScrollBarExtent);
     const int frameWidth = scrollAreaFrameWidth(request.widget->parentWidget());
     const int growth = extent + frameWidth - 1;
-    const QRect rect = baseRect(style, request);
+    const QRect rect = request.baseRect();
     return orientation == Qt::Horizontal ? rect.adjusted(-growth, 0, growth, frameWidth)
                                          : rect.adjusted(frameWidth, -growth, 0, growth);
 }
@@ -76,12 +74,12 @@ bool hasGroove(const QWidget *widget)
            !qobject_cast<const QAbstractScrollArea *>(widget->parentWidget());
 }
 
-void fillGroove(const BaseStyle &style, const PaintRequest &request)
+void fillGroove(const PaintRequest &request)
 {
     const QStyleOption &option = *request.option;
     // The painter would fill what an inverted rectangle encloses.
     if (option.rect.isValid()) {
-        request.painter->fillRect(option.rect, style.grooveBackgroundBrush(isEnabled(option)));
+        request.painter->fillRect(option.rect, grooveBrush(isEnabled(option)));
     }
 }
 
@@ -123,27 +121,27 @@ QStyle::PrimitiveElement lineArrow(const QStyleOption &option, bool isTowardsEnd
 
 /// Draws a button at an end of the scroll bar. It has a face only while the mouse is on it: a
 /// scroll bar at rest is calm.
-bool drawLine(const BaseStyle &style, const PaintRequest &request, bool isTowardsEnd)
+bool drawLine(const PaintRequest &request, bool isTowardsEnd)
 {
     const QStyleOption &option = *request.option;
     if (isHovered(option) || has(option, QStyle::State_Sunken)) {
         const QRectF face =
             QRectF(option.rect).adjusted(faceMargin, faceMargin, -faceMargin, -faceMargin);
         drawShape(*request.painter, face, cornerRadius(CornerSize::Base), Qt::NoPen,
-                  BaseStyle::buttonBrushes(&option, request.widget).background);
+                  buttonBrushes(&option, request.widget).background);
     }
-    style.proxy()->drawPrimitive(lineArrow(option, isTowardsEnd), &option, request.painter,
-                                 request.widget);
+    request.proxy().drawPrimitive(lineArrow(option, isTowardsEnd), &option, request.painter,
+                                  request.widget);
     return true;
 }
 
 } // namespace
 
-QRect subControlRect(const BaseStyle &style, const SubControlRequest &request)
+QRect subControlRect(const SubControlRequest &request)
 {
     const QStyleOptionSlider *option = minimizedOption(request.option, request.widget);
     if (!option) {
-        return baseRect(style, request);
+        return request.baseRect();
     }
     switch (request.subControl) {
     case QStyle::SC_ScrollBarAddLine:
@@ -154,15 +152,15 @@ QRect subControlRect(const BaseStyle &style, const SubControlRequest &request)
     case QStyle::SC_ScrollBarGroove:
         return option->rect;
     case QStyle::SC_ScrollBarSlider:
-        return minimizedSliderRect(style, request, option->orientation);
+        return minimizedSliderRect(request, option->orientation);
     default:
-        return baseRect(style, request);
+        return request.baseRect();
     }
 }
 
-QSize scrollBarSize(const BaseStyle &style, const ContentsRequest &request)
+QSize scrollBarSize(const ContentsRequest &request)
 {
-    QSize size = baseSize(style, request);
+    QSize size = request.baseSize();
     if (const QStyleOptionSlider *option = minimizedOption(request.option, request.widget)) {
         (option->orientation == Qt::Horizontal ? size.rheight() : size.rwidth()) =
             minimizedThickness;
@@ -170,23 +168,23 @@ QSize scrollBarSize(const BaseStyle &style, const ContentsRequest &request)
     return size;
 }
 
-bool drawCorner(const BaseStyle &style, const PaintRequest &request)
+bool drawCorner(const PaintRequest &request)
 {
-    fillGroove(style, request);
+    fillGroove(request);
     return true;
 }
 
-bool drawAddLine(const BaseStyle &style, const PaintRequest &request)
+bool drawAddLine(const PaintRequest &request)
 {
-    return drawLine(style, request, true);
+    return drawLine(request, true);
 }
 
-bool drawSubLine(const BaseStyle &style, const PaintRequest &request)
+bool drawSubLine(const PaintRequest &request)
 {
-    return drawLine(style, request, false);
+    return drawLine(request, false);
 }
 
-bool drawHandle(const BaseStyle & /*style*/, const PaintRequest &request)
+bool drawHandle(const PaintRequest &request)
 {
     const auto *option = qstyleoption_cast<const QStyleOptionSlider *>(request.option);
     if (!option) {
@@ -202,29 +200,29 @@ bool drawHandle(const BaseStyle & /*style*/, const PaintRequest &request)
     return true;
 }
 
-bool drawScrollBar(const BaseStyle &style, const PaintRequest &request)
+bool drawScrollBar(const PaintRequest &request)
 {
     const auto *option = qstyleoption_cast<const QStyleOptionSlider *>(request.option);
     if (!option) {
         return false;
     }
     if (hasGroove(request.widget)) {
-        fillGroove(style, request);
+        fillGroove(request);
     }
     QStyleOptionSlider part = *option;
     for (const Part &row : parts) {
         if (!option->subControls.testFlag(row.subControl)) {
             continue;
         }
-        part.rect = style.proxy()->subControlRect(QStyle::CC_ScrollBar, option, row.subControl,
-                                                  request.widget);
+        part.rect = request.proxy().subControlRect(QStyle::CC_ScrollBar, option, row.subControl,
+                                                   request.widget);
         part.state = stateOf(*option, row.subControl);
         if (part.rect.isValid()) {
-            style.proxy()->drawControl(row.element, &part, request.painter, request.widget);
+            request.draw(row.element, part);
         }
     }
     if (has(*option, QStyle::State_HasFocus)) {
-        drawFocusRect(style, request, option->rect);
+        drawFocusRect(request, option->rect);
     }
     return true;
 }

@@ -2,11 +2,12 @@
 
 #include "catalogue/Names.h"
 #include "resources/ThemeResources.h"
-#include "style/BaseStyle.h"
 #include "style/asking/OptionState.h"
 #include "style/asking/Properties.h"
-#include "style/drawing/Drawing.h"
-#include "style/tables/Geometry.h"
+#include "style/brushes/KeptBrushes.h"
+#include "style/drawing/Focus.h"
+#include "style/drawing/Lines.h"
+#include "style/drawing/Shapes.h"
 
 #include <QtGui/QPainter>
 #include <QtWidgets/QSlider>
@@ -47,11 +48,6 @@ constexpr RangeSliderBrush rangeSliderBrushes[] = {
     {"RangeBrushDisabled", BrushName::MainBrush, false},
 };
 
-int metric(const BaseStyle &style, QStyle::PixelMetric metric, const SubControlRequest &request)
-{
-    return style.proxy()->pixelMetric(metric, request.option, request.widget);
-}
-
 /// The height of a range slider's handle and groove: a range slider that was made high fills its
 /// height.
 int rangeExtent(const QWidget &widget, int length)
@@ -59,13 +55,12 @@ int rangeExtent(const QWidget &widget, int length)
     return qMax(length, widget.minimumHeight());
 }
 
-QRect grooveRect(const BaseStyle &style, const SubControlRequest &request,
-                 Qt::Orientation orientation)
+QRect grooveRect(const SubControlRequest &request, Qt::Orientation orientation)
 {
     QRect rect = request.option->rect;
     const bool isRange = isSet(request.widget, "rangeSlider");
-    const int length = metric(style, QStyle::PM_SliderLength, request);
-    const int thickness = metric(style, QStyle::PM_SliderThickness, request) / 2 - 2;
+    const int length = request.metric(QStyle::PM_SliderLength);
+    const int thickness = request.metric(QStyle::PM_SliderThickness) / 2 - 2;
     if (orientation == Qt::Horizontal) {
         rect.setHeight(isRange ? rangeExtent(*request.widget, length) : thickness);
     } else {
@@ -75,11 +70,10 @@ QRect grooveRect(const BaseStyle &style, const SubControlRequest &request,
     return rect;
 }
 
-QRect handleRect(const BaseStyle &style, const SubControlRequest &request,
-                 Qt::Orientation orientation)
+QRect handleRect(const SubControlRequest &request, Qt::Orientation orientation)
 {
-    QRect rect = baseRect(style, request);
-    const int length = metric(style, QStyle::PM_SliderLength, request);
+    QRect rect = request.baseRect();
+    const int length = request.metric(QStyle::PM_SliderLength);
     const bool isRange = isSet(request.widget, "rangeSlider");
     rect.setSize(QSize(length, isRange ? rangeExtent(*request.widget, length) : length));
     const QPoint center = request.option->rect.center();
@@ -94,7 +88,6 @@ QRect handleRect(const BaseStyle &style, const SubControlRequest &request,
 /// What all parts of one slider are drawn from.
 struct Look
 {
-    const BaseStyle &style;
     const PaintRequest &request;
     const QStyleOptionSlider &option;
     QRect groove;
@@ -104,15 +97,14 @@ struct Look
     bool isHighContrast;
 };
 
-Look lookOf(const BaseStyle &style, const PaintRequest &request, const QStyleOptionSlider &option)
+Look lookOf(const PaintRequest &request, const QStyleOptionSlider &option)
 {
     const auto rectOf = [&](QStyle::SubControl subControl) {
-        return style.proxy()->subControlRect(QStyle::CC_Slider, &option, subControl,
-                                             request.widget);
+        return request.proxy().subControlRect(QStyle::CC_Slider, &option, subControl,
+                                              request.widget);
     };
     // The toolkit mirrors sliders by turning them upside down; their direction mirrors no handle.
-    return {style,
-            request,
+    return {request,
             option,
             rectOf(QStyle::SC_SliderGroove),
             rectOf(QStyle::SC_SliderHandle),
@@ -166,7 +158,7 @@ void drawGroove(const Look &look)
     const bool enabled = isEnabled(look.option);
     drawBar(look, look.groove,
             look.isHighContrast ? themeBrush(BrushName::HighContrastBackgroundBrush, enabled)
-                                : look.style.grooveBackgroundBrush(enabled),
+                                : grooveBrush(enabled),
             Helpers::NoStraightCorner);
     // What a range slider fills lies between two handles, of which the option knows one: such a
     // slider draws it itself.
@@ -197,7 +189,7 @@ qint64 tickInterval(const QStyleOptionSlider &option, qint64 range, int availabl
 /// Returns the strip along the slider in which ticks stand, before or after the groove.
 QRect tickStrip(const Look &look, bool isAfter)
 {
-    const QStyle &proxy = *look.style.proxy();
+    const QStyle &proxy = look.request.proxy();
     const QWidget *widget = look.request.widget;
     const int thickness = proxy.pixelMetric(QStyle::PM_SliderThickness, &look.option, widget);
     const int length =
@@ -229,7 +221,7 @@ void drawTick(const Look &look, const QRect &strip, int position, const QBrush &
 void drawTicks(const Look &look, const QRect &strip)
 {
     const QStyleOptionSlider &option = look.option;
-    const QStyle &proxy = *look.style.proxy();
+    const QStyle &proxy = look.request.proxy();
     const QWidget *widget = look.request.widget;
     const int available = proxy.pixelMetric(QStyle::PM_SliderSpaceAvailable, &option, widget);
     const int length = proxy.pixelMetric(QStyle::PM_SliderLength, &option, widget);
@@ -292,34 +284,34 @@ void drawHandle(const Look &look)
 
 } // namespace
 
-QRect subControlRect(const BaseStyle &style, const SubControlRequest &request)
+QRect subControlRect(const SubControlRequest &request)
 {
     const auto *option = qstyleoption_cast<const QStyleOptionSlider *>(request.option);
     if (!option) {
-        return baseRect(style, request);
+        return request.baseRect();
     }
     QRect rect;
     switch (request.subControl) {
     case QStyle::SC_SliderGroove:
-        rect = grooveRect(style, request, option->orientation);
+        rect = grooveRect(request, option->orientation);
         break;
     case QStyle::SC_SliderHandle:
-        rect = handleRect(style, request, option->orientation);
+        rect = handleRect(request, option->orientation);
         break;
     default:
-        return baseRect(style, request);
+        return request.baseRect();
     }
     return QStyle::visualRect(option->direction, option->rect, rect);
 }
 
-QSize sliderSize(const BaseStyle &style, const ContentsRequest &request)
+QSize sliderSize(const ContentsRequest &request)
 {
-    QSize size = baseSize(style, request);
+    QSize size = request.baseSize();
     const auto *slider = qobject_cast<const QSlider *>(request.widget);
     if (!slider) {
         return size;
     }
-    const QStyle *proxy = style.proxy();
+    const QStyle *proxy = &request.proxy();
     // Room for ticks at either side, whether there are any or not: sliders of a form line up.
     const int thickness =
         proxy->pixelMetric(QStyle::PM_SliderThickness, request.option, slider) +
@@ -328,7 +320,7 @@ QSize sliderSize(const BaseStyle &style, const ContentsRequest &request)
     return size;
 }
 
-void polishRangeSlider(BaseStyle & /*style*/, QWidget &widget)
+void polishRangeSlider(QWidget &widget)
 {
     widget.setProperty("orientation", Qt::Horizontal);
     widget.setProperty("invertedAppearance", false);
@@ -341,13 +333,13 @@ void polishRangeSlider(BaseStyle & /*style*/, QWidget &widget)
     widget.setProperty("CornerRadius", ThemeResources::getCornerRadius(QStringLiteral("BaseSize")));
 }
 
-bool drawSlider(const BaseStyle &style, const PaintRequest &request)
+bool drawSlider(const PaintRequest &request)
 {
     const auto *option = qstyleoption_cast<const QStyleOptionSlider *>(request.option);
     if (!option) {
         return false;
     }
-    const Look look = lookOf(style, request, *option);
+    const Look look = lookOf(request, *option);
     if (option->subControls.testFlag(QStyle::SC_SliderGroove)) {
         drawGroove(look);
     }
@@ -358,7 +350,7 @@ bool drawSlider(const BaseStyle &style, const PaintRequest &request)
         drawHandle(look);
     }
     if (has(*option, QStyle::State_HasFocus)) {
-        drawFocusRect(style, request, option->rect);
+        drawFocusRect(request, option->rect);
     }
     return true;
 }

@@ -6,18 +6,14 @@
 
 class QWidget;
 
-namespace TARN {
-class BaseStyle;
-}
-
 /// Sliders, among them range sliders.
 namespace TARN::Sliders {
 
-QRect subControlRect(const BaseStyle &style, const SubControlRequest &request);
-QSize sliderSize(const BaseStyle &style, const ContentsRequest &request);
+QRect subControlRect(const SubControlRequest &request);
+QSize sliderSize(const ContentsRequest &request);
 
-void polishRangeSlider(BaseStyle &style, QWidget &widget);
+void polishRangeSlider(QWidget &widget);
 
-bool drawSlider(const BaseStyle &style, const PaintRequest &request);
+bool drawSlider(const PaintRequest &request);
 
 } // namespace TARN::Sliders

@@ -2,11 +2,11 @@
 
 #include "catalogue/ComposedBrushes.h"
 #include "catalogue/Names.h"
-#include "style/BaseStyle.h"
+#include "style/asking/Backgrounds.h"
 #include "style/asking/OptionState.h"
-#include "style/drawing/Drawing.h"
-#include "style/families/Inputs.h"
-#include "style/tables/Geometry.h"
+#include "style/brushes/InputBrushes.h"
+#include "style/drawing/Palettes.h"
+#include "style/drawing/Shapes.h"
 
 #include <QtGui/QPainter>
 
@@ -58,8 +58,8 @@ QPen fieldPen(const PaintRequest &request)
 {
     const QStyleOption &option = *request.option;
     const bool enabled = isEnabled(option);
-    if (Inputs::isInError(request.widget)) {
-        return outlinePen(Inputs::errorBrush(enabled));
+    if (isInError(request.widget)) {
+        return outlinePen(errorBrush(enabled));
     }
     // The ground is the same with and without the focus, so the outline has to show it.
     if (has(option, QStyle::State_HasFocus)) {
@@ -73,7 +73,7 @@ void drawField(const PaintRequest &request, bool hasFrame)
     const QRect &rect = request.option->rect;
     drawShape(*request.painter, hasFrame ? onHalfPixel(rect) : QRectF(rect),
               cornerRadius(CornerSize::Base), hasFrame ? fieldPen(request) : QPen(Qt::NoPen),
-              Inputs::fieldBrush(isEnabled(*request.option)));
+              fieldBrush(isEnabled(*request.option)));
 }
 
 /// Returns the state of one button, of which the state of the spin box tells only when it is the
@@ -91,16 +91,17 @@ QStyle::State buttonState(const QStyleOptionSpinBox &option, const StepButton &b
     return state;
 }
 
-Interaction interactionOf(const BaseStyle &style, const QStyleOption &option)
+Interaction interactionOf(const QStyleOption &option)
 {
-    switch (style.getButtonBackgroundState(option)) {
-    case 1:
+    switch (buttonBackground(option)) {
+    case ButtonBackground::Checked:
         return Interaction::Pressed;
-    case 2:
+    case ButtonBackground::Hovered:
         return Interaction::Hover;
-    default:
-        return Interaction::None;
+    case ButtonBackground::AtRest:
+        break;
     }
+    return Interaction::None;
 }
 
 /// A button at rest is part of the field; it looks like a push button while it is used. The brushes
@@ -146,18 +147,18 @@ QRect arrowRect(const StepButton &button, const QRect &face)
     return button.arrow == QStyle::PE_IndicatorSpinDown ? face.translated(0, -1) : face;
 }
 
-void drawStepButton(const BaseStyle &style, const PaintRequest &request,
-                    const QStyleOptionSpinBox &option, const StepButton &button)
+void drawStepButton(const PaintRequest &request, const QStyleOptionSpinBox &option,
+                    const StepButton &button)
 {
     const QRect face =
-        faceRect(option, style.proxy()->subControlRect(QStyle::CC_SpinBox, &option,
-                                                       button.subControl, request.widget));
+        faceRect(option, request.proxy().subControlRect(QStyle::CC_SpinBox, &option,
+                                                        button.subControl, request.widget));
     if (face.isEmpty()) {
         return;
     }
     QStyleOption indicator(option);
     indicator.state = buttonState(option, button);
-    const Interaction interaction = interactionOf(style, indicator);
+    const Interaction interaction = interactionOf(indicator);
     const bool enabled = isEnabled(indicator);
     if (interaction != Interaction::None) {
         drawFace(option, button, face, buttonBrush(interaction, BrushField::Background, enabled),
@@ -169,8 +170,7 @@ void drawStepButton(const BaseStyle &style, const PaintRequest &request,
     indicator.rect = hasSign ? signRect(face) : arrowRect(button, face);
     // Arrows have a straight edge on the pixels, and two whose steps are even.
     request.painter->setRenderHint(QPainter::Antialiasing, false);
-    style.proxy()->drawPrimitive(hasSign ? button.sign : button.arrow, &indicator, request.painter,
-                                 request.widget);
+    request.draw(hasSign ? button.sign : button.arrow, indicator);
 }
 
 /// The bars of a plus or a minus.
@@ -180,11 +180,9 @@ struct Bars
     int thickness;
 };
 
-Bars signBars(const BaseStyle &style, const PaintRequest &request)
+Bars signBars(const PaintRequest &request)
 {
-    const int inset =
-        style.proxy()->pixelMetric(QStyle::PM_DefaultFrameWidth, request.option, request.widget) +
-        1;
+    const int inset = request.metric(QStyle::PM_DefaultFrameWidth) + 1;
     const QRect rect = request.option->rect.adjusted(inset, inset, -inset, -inset);
     const int extent = qMin(rect.width(), rect.height());
     // Bars of a fifth of the sign are about as bold as text, and stand in the middle only when they
@@ -216,11 +214,11 @@ void drawVerticalBar(const PaintRequest &request, const Bars &bars)
 
 } // namespace
 
-QRect subControlRect(const BaseStyle &style, const SubControlRequest &request)
+QRect subControlRect(const SubControlRequest &request)
 {
     const auto *option = qstyleoption_cast<const QStyleOptionSpinBox *>(request.option);
     if (!option) {
-        return baseRect(style, request);
+        return request.baseRect();
     }
     const QRect &rect = option->rect;
     const bool hasButtons = option->buttonSymbols != QAbstractSpinBox::NoButtons;
@@ -239,21 +237,21 @@ QRect subControlRect(const BaseStyle &style, const SubControlRequest &request)
     if (request.subControl == QStyle::SC_SpinBoxEditField) {
         return visual(editFieldRect(rect, hasButtons));
     }
-    return baseRect(style, request);
+    return request.baseRect();
 }
 
-bool drawMinus(const BaseStyle &style, const PaintRequest &request)
+bool drawMinus(const PaintRequest &request)
 {
-    const Bars bars = signBars(style, request);
+    const Bars bars = signBars(request);
     if (!bars.rect.isEmpty()) {
         drawHorizontalBar(request, bars);
     }
     return true;
 }
 
-bool drawPlus(const BaseStyle &style, const PaintRequest &request)
+bool drawPlus(const PaintRequest &request)
 {
-    const Bars bars = signBars(style, request);
+    const Bars bars = signBars(request);
     if (!bars.rect.isEmpty()) {
         drawHorizontalBar(request, bars);
         drawVerticalBar(request, bars);
@@ -261,7 +259,7 @@ bool drawPlus(const BaseStyle &style, const PaintRequest &request)
     return true;
 }
 
-bool drawSpinBox(const BaseStyle &style, const PaintRequest &request)
+bool drawSpinBox(const PaintRequest &request)
 {
     const auto *option = qstyleoption_cast<const QStyleOptionSpinBox *>(request.option);
     if (!option) {
@@ -271,7 +269,7 @@ bool drawSpinBox(const BaseStyle &style, const PaintRequest &request)
     for (const StepButton &button : stepButtons) {
         if (option->subControls.testFlag(button.subControl) &&
             option->buttonSymbols != QAbstractSpinBox::NoButtons) {
-            drawStepButton(style, request, *option, button);
+            drawStepButton(request, *option, button);
         }
     }
     return true;

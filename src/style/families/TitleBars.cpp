@@ -2,15 +2,17 @@
 
 #include "catalogue/Names.h"
 #include "resources/ThemeColorHelper.h"
-#include "style/BaseStyle.h"
 #include "style/asking/OptionState.h"
-#include "style/drawing/Drawing.h"
+#include "style/brushes/ButtonBrushChoice.h"
+#include "style/brushes/KeptBrushes.h"
+#include "style/drawing/Icons.h"
+#include "style/drawing/Lines.h"
 
 #include <QtGui/QPainter>
 #include <QtWidgets/QStyleOption>
 #include <QtWidgets/QWidget>
 
-namespace TARN {
+namespace TARN::TitleBars {
 
 namespace {
 
@@ -21,12 +23,6 @@ QPixmap pictureOf(const QIcon &icon, const QWidget *widget, QIcon::Mode mode = Q
 {
     return iconPixmap(icon, iconSize, mode, QIcon::Off, widget);
 }
-
-} // namespace
-
-namespace TitleBars {
-
-namespace {
 
 /// How far the title stays away from its neighbours.
 constexpr int titleMargin = 4;
@@ -74,15 +70,14 @@ void drawFace(QPainter &painter, const QStyleOptionTitleBar &option)
     const BrushName face =
         isActive(option) ? BrushName::BackgroundUpLevel1Brush : BrushName::BackgroundSubLevel1Brush;
     painter.fillRect(option.rect, themeBrush(face, enabled));
-    fillFrame(painter, option.rect, BaseStyle::getBorderBrush(enabled));
+    fillFrame(painter, option.rect, cardBorderBrush(enabled));
 }
 
-void drawTitle(const BaseStyle &style, const PaintRequest &request,
-               const QStyleOptionTitleBar &option)
+void drawTitle(const PaintRequest &request, const QStyleOptionTitleBar &option)
 {
     const QRect rect =
-        style.proxy()
-            ->subControlRect(QStyle::CC_TitleBar, &option, QStyle::SC_TitleBarLabel, request.widget)
+        request.proxy()
+            .subControlRect(QStyle::CC_TitleBar, &option, QStyle::SC_TitleBarLabel, request.widget)
             .adjusted(titleMargin, 0, -titleMargin, 0);
     if (rect.isEmpty() || option.text.isEmpty()) {
         return;
@@ -98,26 +93,25 @@ void drawTitle(const BaseStyle &style, const PaintRequest &request,
         title);
 }
 
-void drawWindowIcon(const BaseStyle &style, const PaintRequest &request,
-                    const QStyleOptionTitleBar &option)
+void drawWindowIcon(const PaintRequest &request, const QStyleOptionTitleBar &option)
 {
-    const QRect rect = style.proxy()->subControlRect(QStyle::CC_TitleBar, &option,
-                                                     QStyle::SC_TitleBarSysMenu, request.widget);
+    const QRect rect = request.proxy().subControlRect(QStyle::CC_TitleBar, &option,
+                                                      QStyle::SC_TitleBarSysMenu, request.widget);
     if (!rect.isValid()) {
         return;
     }
     const QIcon icon =
         option.icon.isNull()
-            ? style.proxy()->standardIcon(QStyle::SP_TitleBarMenuButton, &option, request.widget)
+            ? request.proxy().standardIcon(QStyle::SP_TitleBarMenuButton, &option, request.widget)
             : option.icon;
     const QIcon::Mode mode = isEnabled(option) ? QIcon::Normal : QIcon::Disabled;
-    style.proxy()->drawItemPixmap(request.painter, rect, Qt::AlignCenter,
-                                  pictureOf(icon, request.widget, mode));
+    request.proxy().drawItemPixmap(request.painter, rect, Qt::AlignCenter,
+                                   pictureOf(icon, request.widget, mode));
 }
 
 } // namespace
 
-bool drawTitleBar(const BaseStyle &style, const PaintRequest &request)
+bool drawTitleBar(const PaintRequest &request)
 {
     const auto *option = qstyleoption_cast<const QStyleOptionTitleBar *>(request.option);
     if (!option) {
@@ -125,43 +119,43 @@ bool drawTitleBar(const BaseStyle &style, const PaintRequest &request)
     }
     drawFace(*request.painter, *option);
     if (option->subControls.testFlag(QStyle::SC_TitleBarLabel)) {
-        drawTitle(style, request, *option);
+        drawTitle(request, *option);
     }
     for (const Button &button : buttons) {
         const bool isWanted = !button.hint || option->titleBarFlags.testFlag(button.hint);
         if (isWanted && option->subControls.testFlag(button.subControl)) {
-            style.drawTitleBarButton(request.painter, option, button.subControl, button.pixmap,
-                                     request.widget);
+            drawButton(request, *option, button.subControl, button.pixmap);
         }
     }
     if (option->subControls.testFlag(QStyle::SC_TitleBarSysMenu)) {
-        drawWindowIcon(style, request, *option);
+        drawWindowIcon(request, *option);
     }
     return true;
 }
 
-} // namespace TitleBars
-
-void BaseStyle::drawTitleBarButton(QPainter *painter, const QStyleOptionTitleBar *option,
-                                   SubControl subControl, StandardPixmap standardPixmap,
-                                   const QWidget *widget) const
+void drawButton(const PaintRequest &request, const QStyleOptionTitleBar &option,
+                QStyle::SubControl subControl, QStyle::StandardPixmap standardPixmap)
 {
-    const QRect rect = proxy()->subControlRect(CC_TitleBar, option, subControl, widget);
+    const QStyle &proxy = request.proxy();
+    const QRect rect =
+        proxy.subControlRect(QStyle::CC_TitleBar, &option, subControl, request.widget);
     if (!rect.isValid()) {
         return;
     }
     QStyleOptionButton button;
-    button.palette = option->palette;
+    button.palette = option.palette;
     button.rect = rect;
     // Buttons that are not in use have no state at all and look disabled.
-    if (option->activeSubControls.testFlag(subControl)) {
-        button.state = option->state & (State_Active | State_HasFocus | State_Enabled |
-                                        State_Sunken | State_MouseOver);
+    if (option.activeSubControls.testFlag(subControl)) {
+        button.state =
+            option.state & (QStyle::State_Active | QStyle::State_HasFocus | QStyle::State_Enabled |
+                            QStyle::State_Sunken | QStyle::State_MouseOver);
     }
-    proxy()->drawPrimitive(PE_PanelButtonBevel, &button, painter, widget);
+    request.draw(QStyle::PE_PanelButtonBevel, button);
     const QIcon icon = ThemeColorHelper::getModifiedIconWithForegroundBrush(
-        standardIcon(standardPixmap, option, widget), buttonBrushes(&button, widget).foreground);
-    proxy()->drawItemPixmap(painter, rect, Qt::AlignCenter, pictureOf(icon, widget));
+        request.style.standardIcon(standardPixmap, &option, request.widget),
+        buttonBrushes(&button, request.widget).foreground);
+    proxy.drawItemPixmap(request.painter, rect, Qt::AlignCenter, pictureOf(icon, request.widget));
 }
 
-} // namespace TARN
+} // namespace TARN::TitleBars

@@ -2,13 +2,16 @@
 
 #include "style/asking/Requests.h"
 
-namespace TARN {
-class BaseStyle;
-}
+class QStyleOptionTitleBar;
 
 /// Title bars of sub-windows.
 namespace TARN::TitleBars {
 
-bool drawTitleBar(const BaseStyle &style, const PaintRequest &request);
+/// Draws one button of a title bar in the rectangle of \a subControl, with the standard icon
+/// \a standardPixmap. A button that is not among the active sub-controls looks disabled.
+void drawButton(const PaintRequest &request, const QStyleOptionTitleBar &option,
+                QStyle::SubControl subControl, QStyle::StandardPixmap standardPixmap);
+
+bool drawTitleBar(const PaintRequest &request);
 
 } // namespace TARN::TitleBars

@@ -1,18 +1,17 @@
 #include "style/families/ToolBars.h"
 
 #include "catalogue/Names.h"
-#include "style/BaseStyle.h"
 #include "style/asking/OptionState.h"
 #include "style/asking/Properties.h"
-#include "style/drawing/Drawing.h"
+#include "style/brushes/KeptBrushes.h"
+#include "style/drawing/Grips.h"
+#include "style/drawing/Lines.h"
 
 #include <QtGui/QPainter>
 #include <QtWidgets/QStyleOption>
 #include <QtWidgets/QToolBar>
 
-namespace TARN {
-
-namespace ToolBars {
+namespace TARN::ToolBars {
 
 namespace {
 
@@ -42,7 +41,7 @@ void drawInnerEdge(QPainter &painter, const QStyleOptionToolBar &option, const Q
 
 } // namespace
 
-bool drawHandle(const BaseStyle &style, const PaintRequest &request)
+bool drawHandle(const PaintRequest &request)
 {
     const QStyleOption &option = *request.option;
     const QRect &rect = option.rect;
@@ -50,16 +49,14 @@ bool drawHandle(const BaseStyle &style, const PaintRequest &request)
     const int y = (rect.top() + rect.bottom()) / 2;
     // The ends are uneven: the row ends where the next grip would start.
     if (has(option, QStyle::State_Horizontal)) {
-        style.drawGrips(*request.painter, Qt::Vertical, y - 8, y + 10, x, gripStep, lightGrip,
-                        darkGrip);
+        drawGrips(*request.painter, Qt::Vertical, y - 8, y + 10, x);
     } else {
-        style.drawGrips(*request.painter, Qt::Horizontal, x - 6, x + 12, y, gripStep, lightGrip,
-                        darkGrip);
+        drawGrips(*request.painter, Qt::Horizontal, x - 6, x + 12, y);
     }
     return true;
 }
 
-bool drawSeparator(const BaseStyle & /*style*/, const PaintRequest &request)
+bool drawSeparator(const PaintRequest &request)
 {
     const QStyleOption &option = *request.option;
     const QRect &rect = option.rect;
@@ -79,7 +76,7 @@ bool drawSeparator(const BaseStyle & /*style*/, const PaintRequest &request)
     return true;
 }
 
-bool drawToolBar(const BaseStyle & /*style*/, const PaintRequest &request)
+bool drawToolBar(const PaintRequest &request)
 {
     const auto *option = qstyleoption_cast<const QStyleOptionToolBar *>(request.option);
     const auto *toolBar = qobject_cast<const QToolBar *>(request.widget);
@@ -92,7 +89,7 @@ bool drawToolBar(const BaseStyle & /*style*/, const PaintRequest &request)
     }
     QPainter &painter = *request.painter;
     const bool enabled = isEnabled(*option);
-    const QBrush &border = BaseStyle::getBorderBrush(enabled);
+    const QBrush &border = cardBorderBrush(enabled);
     // Tool bars continue the menu bar, and their separators stand out from its ground.
     painter.fillRect(option->rect, themeBrush(BrushName::BackgroundSubLevel2Brush, enabled));
     if (toolBar->isWindow()) {
@@ -103,60 +100,4 @@ bool drawToolBar(const BaseStyle & /*style*/, const PaintRequest &request)
     return true;
 }
 
-} // namespace ToolBars
-
-namespace {
-
-/// Beyond, the coordinates of the painter overflow.
-constexpr qint64 farthest = 1 << 24;
-/// A row of so many grips is longer than any screen.
-constexpr qint64 mostGrips = 10000;
-
-/// Where grips stand: from the first position on, every so many pixels, before the end.
-struct GripRow
-{
-    qint64 first;
-    qint64 end;
-    qint64 step;
-};
-
-/// Returns the part of a row that can be painted. One that does not advance is its first grip.
-GripRow paintableRow(qint64 from, qint64 to, qint64 step)
-{
-    if (step <= 0) {
-        return {from, from < -farthest ? from : qMin(qMin(to, farthest), from + 1), 1};
-    }
-    const qint64 skipped = qMax<qint64>(0, -farthest - from + step - 1) / step;
-    const qint64 first = from + skipped * step;
-    return {first, qMin(qMin(to, farthest), first + mostGrips * step), step};
-}
-
-QSize dotSize(int extent)
-{
-    const int bounded = int(qBound<qint64>(0, extent, farthest));
-    return {bounded, bounded};
-}
-
-} // namespace
-
-void BaseStyle::drawGrips(QPainter &painter, Qt::Orientation orientation, int from, int to,
-                          int across, int step, int lightSize, int darkSize) const
-{
-    if (qAbs(qint64(across)) > farthest) {
-        return;
-    }
-    const QColor light(255, 255, 255, 90);
-    const QColor dark(0, 0, 0, 60);
-    const bool isVertical = orientation == Qt::Vertical;
-    const QSize lightDot = dotSize(lightSize);
-    // The dark dots of a vertical row are always single pixels.
-    const QSize darkDot = dotSize(isVertical ? 1 : darkSize);
-    const GripRow row = paintableRow(from, to, step);
-    for (qint64 along = row.first; along < row.end; along += row.step) {
-        const QPoint corner = isVertical ? QPoint(across, int(along)) : QPoint(int(along), across);
-        painter.fillRect(QRect(corner, lightDot), light);
-        painter.fillRect(QRect(corner, darkDot), dark);
-    }
-}
-
-} // namespace TARN
+} // namespace TARN::ToolBars

@@ -1,9 +1,9 @@
 #include "style/families/ToolBoxes.h"
 
 #include "catalogue/Names.h"
-#include "style/BaseStyle.h"
 #include "style/asking/OptionState.h"
-#include "style/drawing/Drawing.h"
+#include "style/brushes/KeptBrushes.h"
+#include "style/drawing/Lines.h"
 
 #include <QtGui/QPainter>
 #include <QtWidgets/QLayout>
@@ -26,12 +26,12 @@ bool hasTopLine(const QStyleOptionToolBox &tab)
 
 } // namespace
 
-void polishButton(BaseStyle & /*style*/, QWidget &widget)
+void polishButton(QWidget &widget)
 {
     widget.setMinimumHeight(leastButtonHeight);
 }
 
-void polishToolBox(BaseStyle & /*style*/, QWidget &widget)
+void polishToolBox(QWidget &widget)
 {
     if (QLayout *layout = widget.layout()) {
         layout->setContentsMargins(0, 0, 0, 0);
@@ -39,7 +39,7 @@ void polishToolBox(BaseStyle & /*style*/, QWidget &widget)
     }
 }
 
-bool drawTabShape(const BaseStyle & /*style*/, const PaintRequest &request)
+bool drawTabShape(const PaintRequest &request)
 {
     const auto *tab = qstyleoption_cast<const QStyleOptionToolBox *>(request.option);
     if (!tab) {
@@ -47,7 +47,7 @@ bool drawTabShape(const BaseStyle & /*style*/, const PaintRequest &request)
     }
     QPainter &painter = *request.painter;
     const bool enabled = isEnabled(*tab);
-    const QBrush &border = BaseStyle::getBorderBrush(enabled);
+    const QBrush &border = cardBorderBrush(enabled);
     painter.fillRect(tab->rect, themeBrush(BrushName::BackgroundUpLevel1Brush, enabled));
     fillEdge(painter, tab->rect.adjusted(0, 0, 0, -1), Qt::BottomEdge,
              themeColor(ColorName::BackgroundUpLevel2Color, enabled));

@@ -4,16 +4,12 @@
 
 class QWidget;
 
-namespace TARN {
-class BaseStyle;
-}
-
 /// Tool boxes.
 namespace TARN::ToolBoxes {
 
-void polishButton(BaseStyle &style, QWidget &widget);
-void polishToolBox(BaseStyle &style, QWidget &widget);
+void polishButton(QWidget &widget);
+void polishToolBox(QWidget &widget);
 
-bool drawTabShape(const BaseStyle &style, const PaintRequest &request);
+bool drawTabShape(const PaintRequest &request);
 
 } // namespace TARN::ToolBoxes

@@ -1,10 +1,11 @@
 #include "style/families/Windows.h"
 
-#include "style/BaseStyle.h"
 #include "style/asking/OptionState.h"
 #include "style/asking/Properties.h"
-#include "style/drawing/Drawing.h"
+#include "style/brushes/KeptBrushes.h"
+#include "style/drawing/Lines.h"
 #include "style/families/Cards.h"
+#include "style/families/DockWidgets.h"
 
 #include <QtGui/QPainter>
 #include <QtWidgets/QDockWidget>
@@ -12,49 +13,33 @@
 
 namespace TARN::Windows {
 
-namespace {
-
-constexpr int leastStatusBarHeight = 34;
-
-} // namespace
-
-void polishStatusBar(BaseStyle & /*style*/, QWidget &widget)
-{
-    widget.setMinimumHeight(leastStatusBarHeight);
-}
-
-void polishScrollArea(BaseStyle & /*style*/, QWidget &widget)
+void polishScrollArea(QWidget &widget)
 {
     static_cast<QScrollArea &>(widget).viewport()->setBackgroundRole(QPalette::Light);
 }
 
-void polishMainWindow(BaseStyle & /*style*/, QWidget &widget)
+void polishMainWindow(QWidget &widget)
 {
     if (widget.isWindow()) {
         widget.setAttribute(Qt::WA_StyledBackground);
     }
 }
 
-void polishDockWidget(BaseStyle & /*style*/, QWidget &widget)
-{
-    widget.setAttribute(Qt::WA_StyledBackground);
-}
-
-void polishWindow(BaseStyle &style, QWidget &widget)
+void polishWindow(QStyle &style, QWidget &widget)
 {
     if (widget.isWindow() || qobject_cast<QDockWidget *>(&widget)) {
         widget.installEventFilter(&style);
     }
 }
 
-bool drawFrame(const BaseStyle & /*style*/, const PaintRequest &request)
+bool drawFrame(const PaintRequest &request)
 {
     const QStyleOption &option = *request.option;
-    fillFrame(*request.painter, option.rect, BaseStyle::getBorderBrush(isEnabled(option)));
+    fillFrame(*request.painter, option.rect, cardBorderBrush(isEnabled(option)));
     return true;
 }
 
-bool drawBackground(const BaseStyle &style, const PaintRequest &request)
+bool drawBackground(const PaintRequest &request)
 {
     const QStyleOption &option = *request.option;
     // A main window inside of another one is one of its contents and lies on their ground.
@@ -62,11 +47,7 @@ bool drawBackground(const BaseStyle &style, const PaintRequest &request)
         request.painter->fillRect(option.rect, option.palette.dark());
         return true;
     }
-    if (isA(request.widget, "QDockWidget")) {
-        request.painter->fillRect(option.rect, option.palette.light());
-        return true;
-    }
-    return Cards::drawPart(style, request);
+    return DockWidgets::drawBackground(request) || Cards::drawPart(request);
 }
 
 } // namespace TARN::Windows

@@ -4,22 +4,16 @@
 
 class QWidget;
 
-namespace TARN {
-class BaseStyle;
-}
-
-/// Windows and what surrounds their contents: docks, status bars, scroll areas.
+/// Windows, and the scroll areas that surround their contents.
 namespace TARN::Windows {
 
-void polishStatusBar(BaseStyle &style, QWidget &widget);
-void polishScrollArea(BaseStyle &style, QWidget &widget);
-void polishMainWindow(BaseStyle &style, QWidget &widget);
-void polishDockWidget(BaseStyle &style, QWidget &widget);
+void polishScrollArea(QWidget &widget);
+void polishMainWindow(QWidget &widget);
 
 /// Has the style hear Alt in a window, be it one now or, as a dock, at times.
-void polishWindow(BaseStyle &style, QWidget &widget);
+void polishWindow(QStyle &style, QWidget &widget);
 
-bool drawFrame(const BaseStyle &style, const PaintRequest &request);
-bool drawBackground(const BaseStyle &style, const PaintRequest &request);
+bool drawFrame(const PaintRequest &request);
+bool drawBackground(const PaintRequest &request);
 
 } // namespace TARN::Windows

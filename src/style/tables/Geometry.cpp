@@ -1,6 +1,5 @@
 #include "style/tables/Geometry.h"
 
-#include "style/BaseStyle.h"
 #include "style/families/CheckBoxes.h"
 #include "style/families/ComboBoxes.h"
 #include "style/families/GroupBoxes.h"
@@ -10,6 +9,7 @@
 #include "style/families/Sliders.h"
 #include "style/families/SpinBoxes.h"
 #include "style/families/buttons/PushButtons.h"
+#include "style/families/buttons/ToolButtons.h"
 #include "style/families/item_views/ItemViews.h"
 #include "style/families/tabs/TabSizes.h"
 
@@ -48,7 +48,7 @@ constexpr Row<QStyle::ComplexControl, SubControlRule> subControlTable[] = {
 
 constexpr Row<QStyle::ContentsType, ContentsRule> contentsTable[] = {
     {QStyle::CT_PushButton, Buttons::pushButtonSize},
-    {QStyle::CT_ToolButton, Buttons::toolButtonSize},
+    {QStyle::CT_ToolButton, ToolButtons::toolButtonSize},
     {QStyle::CT_ComboBox, ComboBoxes::comboBoxSize},
     {QStyle::CT_LineEdit, Inputs::lineEditSize},
     {QStyle::CT_ProgressBar, ProgressBars::progressBarSize},
@@ -82,23 +82,6 @@ SubControlRule subControlRule(QStyle::ComplexControl control)
 ContentsRule contentsRule(QStyle::ContentsType type)
 {
     return find(contentsTable, type);
-}
-
-QRect baseRect(const BaseStyle &style, const SubElementRequest &request)
-{
-    return style.QProxyStyle::subElementRect(request.element, request.option, request.widget);
-}
-
-QRect baseRect(const BaseStyle &style, const SubControlRequest &request)
-{
-    return style.QProxyStyle::subControlRect(request.control, request.option, request.subControl,
-                                             request.widget);
-}
-
-QSize baseSize(const BaseStyle &style, const ContentsRequest &request)
-{
-    return style.QProxyStyle::sizeFromContents(request.type, request.option, request.contents,
-                                               request.widget);
 }
 
 } // namespace TARN

@@ -1,8 +1,8 @@
 #include "style/tables/Metrics.h"
 
 #include "catalogue/Names.h"
-#include "style/BaseStyle.h"
 #include "style/asking/Properties.h"
+#include "style/families/item_views/ItemViews.h"
 
 #include <QtGui/QFontMetrics>
 #include <QtWidgets/QStyleOption>
@@ -70,7 +70,7 @@ constexpr MetricRow metricTable[] = {
     {QStyle::PM_TabCloseIndicatorHeight, 0, tabDecorationExtent},
     {QStyle::PM_MessageBoxIconSize, 32},
     {QStyle::PM_DockWidgetTitleBarButtonMargin, 3},
-    {static_cast<int>(BaseStyle::TARN_PM_ListViewPadding), 5},
+    {ItemViews::listViewPaddingMetric, 5},
 };
 
 int never(const QStyleOption * /*option*/, QStyleHintReturn * /*returnData*/)

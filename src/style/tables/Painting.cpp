@@ -12,16 +12,22 @@
 #include "style/families/Sliders.h"
 #include "style/families/SpinBoxes.h"
 #include "style/families/Splitters.h"
-#include "style/families/TipsAndStatus.h"
+#include "style/families/StatusBars.h"
 #include "style/families/TitleBars.h"
 #include "style/families/ToolBars.h"
 #include "style/families/ToolBoxes.h"
+#include "style/families/ToolTips.h"
 #include "style/families/Windows.h"
+#include "style/families/buttons/ButtonPanels.h"
 #include "style/families/buttons/PushButtons.h"
 #include "style/families/buttons/ToolButtons.h"
 #include "style/families/item_views/ItemViews.h"
+#include "style/families/item_views/Items.h"
+#include "style/families/menus/MenuBars.h"
 #include "style/families/menus/MenuItems.h"
-#include "style/families/tabs/TabPainting.h"
+#include "style/families/menus/MenuSurfaces.h"
+#include "style/families/tabs/TabLabels.h"
+#include "style/families/tabs/TabShapes.h"
 
 #include <QtGui/QPainter>
 
@@ -76,7 +82,7 @@ constexpr PaintedElement primitives[] = {
     MOX_ELEMENT(PE_IndicatorSpinUp, leftToBaseStyle),
     MOX_ELEMENT(PE_IndicatorToolBarHandle, ToolBars::drawHandle),
     MOX_ELEMENT(PE_IndicatorToolBarSeparator, ToolBars::drawSeparator),
-    MOX_ELEMENT(PE_PanelTipLabel, TipsAndStatus::drawTip),
+    MOX_ELEMENT(PE_PanelTipLabel, ToolTips::drawTip),
     MOX_ELEMENT(PE_IndicatorTabTear, leftToBaseStyle),
     MOX_ELEMENT(PE_PanelScrollAreaCorner, ScrollBars::drawCorner),
     MOX_ELEMENT(PE_Widget, Windows::drawBackground),
@@ -84,7 +90,7 @@ constexpr PaintedElement primitives[] = {
     MOX_ELEMENT(PE_IndicatorItemViewItemDrop, leftToBaseStyle),
     MOX_ELEMENT(PE_PanelItemViewItem, ItemViews::drawItemPanel),
     MOX_ELEMENT(PE_PanelItemViewRow, ItemViews::drawRow),
-    MOX_ELEMENT(PE_PanelStatusBar, TipsAndStatus::drawStatusBar),
+    MOX_ELEMENT(PE_PanelStatusBar, StatusBars::drawPanel),
     MOX_ELEMENT(PE_IndicatorTabClose, Tabs::drawCloseIndicator),
     MOX_ELEMENT(PE_PanelMenu, Menus::drawPanel),
     MOX_ELEMENT(PE_IndicatorTabTearRight, leftToBaseStyle),
@@ -195,7 +201,7 @@ const QVector<PaintedElement> &paintedComplexControls()
     return table;
 }
 
-bool paint(PaintRule rule, const BaseStyle &style, const PaintRequest &request)
+bool paint(PaintRule rule, const PaintRequest &request)
 {
     QPainter &painter = *request.painter;
     // The painter's own save() copies its whole state, which takes longer than many elements do.
@@ -203,7 +209,7 @@ bool paint(PaintRule rule, const BaseStyle &style, const PaintRequest &request)
     const QBrush brush = painter.brush();
     const QPoint brushOrigin = painter.brushOrigin();
     const QPainter::RenderHints hints = painter.renderHints();
-    const bool isPainted = rule(style, request);
+    const bool isPainted = rule(request);
     painter.setPen(pen);
     painter.setBrush(brush);
     painter.setBrushOrigin(brushOrigin);

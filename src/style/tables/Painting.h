@@ -9,14 +9,12 @@
 /// What the style paints itself, and what it leaves to its base style.
 namespace TARN {
 
-class BaseStyle;
-
 /// Paints an element and tells whether it did: an option of another type than the element needs is
 /// the base style's.
 ///
 /// The painter's pen, brush, brush origin and render hints need not be put back; whoever changes
 /// anything else brackets that with save() and restore().
-using PaintRule = bool (*)(const BaseStyle &style, const PaintRequest &request);
+using PaintRule = bool (*)(const PaintRequest &request);
 
 struct PaintedElement
 {
@@ -39,6 +37,6 @@ inline PaintRule paintRule(const QVector<PaintedElement> &table, int element)
 }
 
 /// Paints by \a rule and puts the painter's pen, brush and render hints back.
-bool paint(PaintRule rule, const BaseStyle &style, const PaintRequest &request);
+bool paint(PaintRule rule, const PaintRequest &request);
 
 } // namespace TARN

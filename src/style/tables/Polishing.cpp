@@ -1,14 +1,15 @@
 #include "style/tables/Polishing.h"
 
-#include "style/BaseStyle.h"
 #include "style/asking/Properties.h"
 #include "style/families/Cards.h"
 #include "style/families/ComboBoxes.h"
 #include "style/families/Components.h"
+#include "style/families/DockWidgets.h"
 #include "style/families/Inputs.h"
 #include "style/families/Labels.h"
 #include "style/families/ProgressBars.h"
 #include "style/families/Sliders.h"
+#include "style/families/StatusBars.h"
 #include "style/families/ToolBoxes.h"
 #include "style/families/Windows.h"
 #include "style/families/buttons/PushButtons.h"
@@ -26,12 +27,12 @@ namespace TARN {
 
 namespace {
 
-void hearHovering(BaseStyle & /*style*/, QWidget &widget)
+void hearHovering(QWidget &widget)
 {
     widget.setAttribute(Qt::WA_Hover);
 }
 
-void allowShadow(BaseStyle & /*style*/, QWidget &widget)
+void allowShadow(QWidget &widget)
 {
     widget.setWindowFlag(Qt::NoDropShadowWindowHint, false);
 }
@@ -49,7 +50,9 @@ struct Rule
 {
     /// The class that the rule is for; null when it is for every widget.
     const char *className;
-    void (*apply)(BaseStyle &style, QWidget &widget);
+    void (*apply)(QWidget &widget);
+    /// Of those that have the style work on: it hears the widget, or owns what the widget gets.
+    void (*applyFor)(QStyle &style, QWidget &widget) = nullptr;
 };
 
 // In the order in which they apply: later rules see what earlier ones did.
@@ -62,28 +65,28 @@ constexpr Rule rules[] = {
     {"QGroupBox", hearHovering},
     {"QTabWidget", Tabs::polishFont},
     {"QTabBar", Tabs::polishFont},
-    {"QStatusBar", Windows::polishStatusBar},
+    {"QStatusBar", StatusBars::polish},
     {"QScrollArea", Windows::polishScrollArea},
     {"QMainWindow", Windows::polishMainWindow},
-    {"QDockWidget", Windows::polishDockWidget},
+    {"QDockWidget", DockWidgets::polish},
     {marked, Cards::polishPart},
     {marked, Cards::polishTitle},
     {marked, Cards::polishSubtitle},
     {"TARN::Components::CardWidget", Cards::polishCard},
-    {"QComboBox", ComboBoxes::polishDelegate},
+    {"QComboBox", nullptr, ComboBoxes::polishDelegate},
     {marked, Components::polishContainer},
     {"TARN::Components::ButtonGroupWidget", Components::polishButtonGroup},
     {marked, Components::polishRoundedPixmap},
     {marked, Components::polishPill},
     {"TARN::PeriodicTable::PeriodicTableView", Components::polishPeriodicTable},
     {"TARN::Components::RangeSlider", Sliders::polishRangeSlider},
-    {"QCommandLinkButton", Buttons::polishCommandLink},
+    {"QCommandLinkButton", nullptr, Buttons::polishCommandLink},
     {nullptr, allowShadow},
     {"QToolBoxButton", ToolBoxes::polishButton},
     {"QToolBox", ToolBoxes::polishToolBox},
-    {"QLineEditIconButton", Inputs::polishClearButton},
+    {"QLineEditIconButton", nullptr, Inputs::polishClearButton},
     // Alt is heard where key events end up when nobody takes them.
-    {nullptr, Windows::polishWindow},
+    {nullptr, nullptr, Windows::polishWindow},
 };
 
 /// What of the rules is the same for all widgets of a class.
@@ -126,22 +129,16 @@ const ClassRules &classRules(const QWidget &widget)
 
 } // namespace
 
-void polishWidget(BaseStyle &style, QWidget &widget)
+void polishWidget(QStyle &style, QWidget &widget)
 {
     const ClassRules &ofClass = classRules(widget);
     for (const Rule *rule : ofClass.rules) {
         const bool applies =
             !isMarkRule(*rule) || ofClass.declaresMark || !widget.dynamicPropertyNames().isEmpty();
         if (applies) {
-            rule->apply(style, widget);
+            rule->apply ? rule->apply(widget) : rule->applyFor(style, widget);
         }
     }
-}
-
-void setPolishedFont(QWidget &widget, const QFont &font)
-{
-    widget.setProperty("_q_styleSheetWidgetFont", font);
-    widget.setFont(font);
 }
 
 void unpolishWidget(QWidget &widget)

@@ -1,9 +1,10 @@
+#include "style/tables/StandardIcons.h"
+
 #include "catalogue/Names.h"
 #include "common_utils/Helpers.h"
 #include "resources/ThemeColorHelper.h"
 #include "resources/ThemeResources.h"
 #include "resources/kept/ProcessCache.h"
-#include "style/BaseStyle.h"
 
 #include <QtGui/QImage>
 #include <QtGui/QPixmap>
@@ -121,37 +122,33 @@ QPixmap colored(QImage image, const QColor &color)
 
 } // namespace
 
-QIcon BaseStyle::standardIcon(StandardPixmap sp, const QStyleOption *option,
-                              const QWidget *widget) const
+std::optional<QIcon> standardIconOf(QStyle::StandardPixmap pixmap, const QStyleOption *option,
+                                    const QWidget *widget, const QPalette &palette)
 {
-    if (sp == SP_CustomBase) {
+    if (pixmap == QStyle::SP_CustomBase) {
         return highlightedIcon(option, widget);
     }
-    if (sp == SP_ToolBarHorizontalExtensionButton) {
+    if (pixmap == QStyle::SP_ToolBarHorizontalExtensionButton) {
         static ProcessKept<QIcon> icon;
-        return icon.value(
-            [this] { return generateToolBarExpandButtonIcon(horizontalExtension, m_palette); });
+        return icon.value([&] { return toolBarExtensionIcon(horizontalExtension, palette); });
     }
-    if (sp == SP_ToolBarVerticalExtensionButton) {
+    if (pixmap == QStyle::SP_ToolBarVerticalExtensionButton) {
         static ProcessKept<QIcon> icon;
-        return icon.value(
-            [this] { return generateToolBarExpandButtonIcon(verticalExtension, m_palette); });
+        return icon.value([&] { return toolBarExtensionIcon(verticalExtension, palette); });
     }
-    const char *name = iconName(iconTable, sp);
-    return name ? themeIcon(name) : QProxyStyle::standardIcon(sp, option, widget);
+    const char *name = iconName(iconTable, pixmap);
+    return name ? std::optional<QIcon>(themeIcon(name)) : std::nullopt;
 }
 
-QPixmap BaseStyle::standardPixmap(StandardPixmap sp, const QStyleOption *option,
-                                  const QWidget *widget) const
+std::optional<QPixmap> standardPixmapOf(QStyle::StandardPixmap pixmap)
 {
-    if (const char *name = iconName(titleBarPixmapTable, sp)) {
-        return themeIcon(name).pixmap(QSize(titleBarIconSize, titleBarIconSize));
-    }
-    return QProxyStyle::standardPixmap(sp, option, widget);
+    const char *name = iconName(titleBarPixmapTable, pixmap);
+    return name ? std::optional<QPixmap>(
+                      themeIcon(name).pixmap(QSize(titleBarIconSize, titleBarIconSize)))
+                : std::nullopt;
 }
 
-QPixmap BaseStyle::generatedIconPixmap(QIcon::Mode mode, const QPixmap &pixmap,
-                                       const QStyleOption *option) const
+QPixmap generatedPixmap(QIcon::Mode mode, const QPixmap &pixmap, const QStyleOption *option)
 {
     if (mode != QIcon::Disabled || !option || !qobject_cast<QLabel *>(option->styleObject)) {
         return pixmap;
@@ -162,8 +159,7 @@ QPixmap BaseStyle::generatedIconPixmap(QIcon::Mode mode, const QPixmap &pixmap,
     return icon.pixmap(QSize(int(pixmap.width() / ratio), int(pixmap.height() / ratio)));
 }
 
-QIcon BaseStyle::generateToolBarExpandButtonIcon(const char *const *xpm,
-                                                 const QPalette &palette) const
+QIcon toolBarExtensionIcon(const char *const *xpm, const QPalette &palette)
 {
     const QImage image = QImage(xpm).convertToFormat(QImage::Format_ARGB32);
     QIcon icon;

@@ -23,6 +23,14 @@ MnemonicText readMnemonic(const QString &source, Mnemonic mnemonic)
     return label;
 }
 
+int mnemonicFlags(const PaintRequest &request)
+{
+    const QStyle &proxy = request.proxy();
+    return proxy.styleHint(QStyle::SH_UnderlineShortcut, request.option, request.widget) != 0
+               ? Qt::TextShowMnemonic
+               : Qt::TextHideMnemonic;
+}
+
 void underline(QTextLayout &layout, const MnemonicText &label)
 {
     if (label.underlined >= 0) {

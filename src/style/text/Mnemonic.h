@@ -1,5 +1,7 @@
 #pragma once
 
+#include "style/asking/Requests.h"
+
 #include <QtCore/QString>
 
 class QTextLayout;
@@ -21,6 +23,9 @@ struct MnemonicText
 };
 
 MnemonicText readMnemonic(const QString &source, Mnemonic mnemonic);
+
+/// Returns the flags by which QPainter draws texts with mnemonics for \a request.
+int mnemonicFlags(const PaintRequest &request);
 
 /// Underlines the key in \a layout, whose text must be that of \a label.
 void underline(QTextLayout &layout, const MnemonicText &label);

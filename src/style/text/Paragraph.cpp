@@ -10,14 +10,14 @@
 
 namespace TARN {
 
-bool operator==(const ItemTextSetting &a, const ItemTextSetting &b)
+bool operator==(const ParagraphSetting &a, const ParagraphSetting &b)
 {
     return a.room == b.room && a.alignment == b.alignment && a.elideMode == b.elideMode &&
            a.direction == b.direction && a.isWrapped == b.isWrapped && a.mnemonic == b.mnemonic &&
            a.text == b.text && a.font == b.font;
 }
 
-uint qHash(const ItemTextSetting &setting, uint seed)
+uint qHash(const ParagraphSetting &setting, uint seed)
 {
     // Fonts take long to hash, and one text is rarely drawn in many.
     return ::qHash(setting.text, seed) + 31U * static_cast<uint>(setting.room.width());
@@ -27,7 +27,7 @@ namespace {
 
 constexpr QChar ellipsis(0x2026);
 
-std::unique_ptr<QTextLayout> makeLayout(const ItemTextSetting &setting, const MnemonicText &label)
+std::unique_ptr<QTextLayout> makeLayout(const ParagraphSetting &setting, const MnemonicText &label)
 {
     QTextOption option;
     option.setWrapMode(setting.isWrapped ? QTextOption::WordWrap : QTextOption::ManualWrap);
@@ -73,7 +73,7 @@ int breakLines(QTextLayout &layout, int width, int height)
 class VisibleText
 {
 public:
-    VisibleText(const ItemTextSetting &setting, const QTextLayout &layout, int lastLine)
+    VisibleText(const ParagraphSetting &setting, const QTextLayout &layout, int lastLine)
         : m_setting(setting)
         , m_layout(layout)
         , m_lastLine(lastLine)
@@ -140,7 +140,7 @@ private:
                                   Qt::TextLongestVariant);
     }
 
-    const ItemTextSetting &m_setting;
+    const ParagraphSetting &m_setting;
     const QTextLayout &m_layout;
     int m_lastLine;
     int m_top;
@@ -165,12 +165,12 @@ constexpr int charactersPerCost = 32;
 
 } // namespace
 
-std::shared_ptr<const ItemText> ItemText::of(const ItemTextSetting &setting)
+std::shared_ptr<const Paragraph> Paragraph::of(const ParagraphSetting &setting)
 {
-    return keptText<ItemText, keptTextsCost>(setting, 1 + setting.text.size() / charactersPerCost);
+    return keptText<Paragraph, keptTextsCost>(setting, 1 + setting.text.size() / charactersPerCost);
 }
 
-ItemText::ItemText(const ItemTextSetting &setting)
+Paragraph::Paragraph(const ParagraphSetting &setting)
 {
     const MnemonicText label = readMnemonic(setting.text, setting.mnemonic);
     m_layout = makeLayout(setting, label);
@@ -187,14 +187,14 @@ ItemText::ItemText(const ItemTextSetting &setting)
     m_ink = inkOf(*m_layout).translated(0, m_top);
 }
 
-ItemText::~ItemText() = default;
+Paragraph::~Paragraph() = default;
 
-void ItemText::draw(QPainter &painter, const QPoint &corner) const
+void Paragraph::draw(QPainter &painter, const QPoint &corner) const
 {
     m_layout->draw(&painter, QPointF(corner.x(), corner.y() + m_top));
 }
 
-QString ItemText::visibleText() const
+QString Paragraph::visibleText() const
 {
     return m_layout->text();
 }

@@ -18,7 +18,7 @@ class QTextLayout;
 namespace TARN {
 
 /// A text, and everything that its look depends on but its colour and its place.
-struct ItemTextSetting
+struct ParagraphSetting
 {
     QString text; ///< lines end with QChar::LineSeparator
     QFont font;
@@ -30,8 +30,8 @@ struct ItemTextSetting
     Mnemonic mnemonic = Mnemonic::None;
 };
 
-bool operator==(const ItemTextSetting &a, const ItemTextSetting &b);
-uint qHash(const ItemTextSetting &setting, uint seed = 0);
+bool operator==(const ParagraphSetting &a, const ParagraphSetting &b);
+uint qHash(const ParagraphSetting &setting, uint seed = 0);
 
 /// A text laid out in its room: broken into lines, each elided where it is too wide, and the last
 /// one that can be seen where it is not the last of all. It looks as the toolkit draws the text of
@@ -41,17 +41,17 @@ uint qHash(const ItemTextSetting &setting, uint seed = 0);
 /// from one painting to the next; the ones that were not drawn for the longest time are dropped
 /// first. Neither the colour nor the resolution is kept: a text is drawn with the painter's pen
 /// and under its transformation, whatever they are.
-class MOX_COMMON_THEME_EXPORT ItemText
+class MOX_COMMON_THEME_EXPORT Paragraph
 {
 public:
     /// Returns the text laid out so; a kept one if there is one. To be called on the GUI thread.
-    static std::shared_ptr<const ItemText> of(const ItemTextSetting &setting);
+    static std::shared_ptr<const Paragraph> of(const ParagraphSetting &setting);
 
-    explicit ItemText(const ItemTextSetting &setting);
-    ~ItemText();
+    explicit Paragraph(const ParagraphSetting &setting);
+    ~Paragraph();
 
-    ItemText(const ItemText &) = delete;
-    ItemText &operator=(const ItemText &) = delete;
+    Paragraph(const Paragraph &) = delete;
+    Paragraph &operator=(const Paragraph &) = delete;
 
     /// Draws the text with the pen of \a painter in the room whose top left corner is \a corner.
     void draw(QPainter &painter, const QPoint &corner) const;

@@ -144,7 +144,7 @@ constexpr int plainFlags = Qt::AlignHorizontal_Mask | Qt::AlignVertical_Mask | Q
 
 } // namespace
 
-bool drawLabelText(QPainter &painter, const QRect &rect, int flags, const QString &text)
+bool drawSingleLine(QPainter &painter, const QRect &rect, int flags, const QString &text)
 {
     if ((flags & ~plainFlags) != 0 || (flags & Qt::AlignJustify) != 0 || !painter.device() ||
         !isPlainLine(text) || !hasOneKey(text, flags)) {

@@ -13,6 +13,6 @@ namespace TARN {
 /// The glyphs of texts are kept from one painting to the next, since finding them takes several
 /// times longer than drawing them; those of the texts that were not drawn for the longest time are
 /// dropped first.
-bool drawLabelText(QPainter &painter, const QRect &rect, int flags, const QString &text);
+bool drawSingleLine(QPainter &painter, const QRect &rect, int flags, const QString &text);
 
 } // namespace TARN

@@ -3,8 +3,7 @@
 #include "catalogue/ComposedBrushes.h"
 #include "catalogue/Names.h"
 #include "resources/ThemeColorHelper.h"
-#include "resources/ThemeResources.h"
-#include "style/BaseStyle.h"
+#include "style/asking/OptionState.h"
 
 #include <QtGui/QPalette>
 #include <QtWidgets/QAction>
@@ -50,11 +49,11 @@ bool isOfAnAddedAction(const QToolButton &button)
 
 } // namespace
 
-void tintOnPaint(BaseStyle &style, QWidget &widget)
+void tintOnPaint(QObject &filter, QWidget &widget)
 {
     // What a former style put on it came from another theme.
     widget.setProperty(tintProperty, QVariant());
-    widget.installEventFilter(&style);
+    widget.installEventFilter(&filter);
 }
 
 void tintClearButton(QToolButton &button)

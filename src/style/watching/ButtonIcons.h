@@ -1,15 +1,15 @@
 #pragma once
 
 class QCommandLinkButton;
+class QObject;
 class QToolButton;
 class QWidget;
 
 namespace TARN {
 
-class BaseStyle;
-
-/// Has \a style tint the icon of the button \a widget whenever it is painted.
-void tintOnPaint(BaseStyle &style, QWidget &widget);
+/// Has \a filter, which hands its events to watch(), tint the icon of the button \a widget whenever
+/// it is painted.
+void tintOnPaint(QObject &filter, QWidget &widget);
 
 /// Gives the clear button of a line edit the theme's icon, in the colour of its state.
 void tintClearButton(QToolButton &button);

@@ -1,7 +1,8 @@
-#include "style/BaseStyle.h"
+#include "style/watching/EventFilter.h"
+
 #include "style/asking/Properties.h"
+#include "style/watching/AltKey.h"
 #include "style/watching/ButtonIcons.h"
-#include "style/watching/UnderlinedKeys.h"
 
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QCommandLinkButton>
@@ -27,15 +28,7 @@ bool isAlt(const QEvent &event)
 
 } // namespace
 
-bool BaseStyle::eventFilter(QObject *watched, QEvent *event)
-{
-    if (watched->isWidgetType()) {
-        filterWidgetEvent(static_cast<QWidget &>(*watched), *event);
-    }
-    return QProxyStyle::eventFilter(watched, event);
-}
-
-void BaseStyle::filterWidgetEvent(QWidget &widget, const QEvent &event)
+void watch(QWidget &widget, const QEvent &event, AltKey &altKey)
 {
     switch (event.type()) {
     case QEvent::Paint:
@@ -43,51 +36,27 @@ void BaseStyle::filterWidgetEvent(QWidget &widget, const QEvent &event)
         break;
     case QEvent::KeyPress:
         if (isAlt(event)) {
-            pressAlt(*widget.window());
+            altKey.press(*widget.window());
         }
         break;
     case QEvent::KeyRelease:
         if (isAlt(event)) {
-            releaseAlt(*widget.window());
+            altKey.release(*widget.window());
         }
         break;
     case QEvent::WindowDeactivate:
         // Another window hears the release.
-        if (m_altDown) {
-            releaseAlt(*widget.window());
+        if (altKey.isDown()) {
+            altKey.release(*widget.window());
         }
         break;
     case QEvent::Close:
-        forgetAlt(widget);
-        forgetAlt(*widget.window());
+        altKey.forget(widget);
+        altKey.forget(*widget.window());
         break;
     default:
         break;
     }
-}
-
-void BaseStyle::pressAlt(const QWidget &window)
-{
-    m_altDown = true;
-    if (!m_seenAlt.contains(&window)) {
-        m_seenAlt.append(&window);
-        connect(&window, &QObject::destroyed, this,
-                [this, address = &window] { m_seenAlt.removeAll(address); });
-    }
-    updateMnemonics(window);
-}
-
-void BaseStyle::forgetAlt(const QWidget &window)
-{
-    if (m_seenAlt.removeAll(&window) > 0) {
-        disconnect(&window, &QObject::destroyed, this, nullptr);
-    }
-}
-
-void BaseStyle::releaseAlt(const QWidget &window)
-{
-    m_altDown = false;
-    updateMenuBars(window);
 }
 
 } // namespace TARN

@@ -6,33 +6,33 @@
 
 #include <support/Text.h>
 
-using TARN::ItemText;
-using TARN::ItemTextSetting;
+using TARN::Paragraph;
+using TARN::ParagraphSetting;
 using TARN::Mnemonic;
 
 namespace {
 
-ItemTextSetting settingOf(const QString &string, int width = 200)
+ParagraphSetting settingOf(const QString &string, int width = 200)
 {
-    ItemTextSetting setting;
+    ParagraphSetting setting;
     setting.text = string;
     setting.font = QFont(text("DejaVu Sans"), 10);
     setting.room = QSize(width, 20);
     return setting;
 }
 
-QImage pictureOf(const ItemTextSetting &setting, const QColor &pen = Qt::black)
+QImage pictureOf(const ParagraphSetting &setting, const QColor &pen = Qt::black)
 {
     QImage picture(220, 40, QImage::Format_RGB32);
     picture.fill(Qt::white);
     QPainter painter(&picture);
     painter.setPen(pen);
-    ItemText::of(setting)->draw(painter, {5, 5});
+    Paragraph::of(setting)->draw(painter, {5, 5});
     return picture;
 }
 
 /// Returns what the toolkit draws of a text in which ampersands mark keys.
-QImage toolkitPicture(const ItemTextSetting &setting, int flag)
+QImage toolkitPicture(const ParagraphSetting &setting, int flag)
 {
     QImage picture(220, 40, QImage::Format_RGB32);
     picture.fill(Qt::white);
@@ -46,7 +46,7 @@ QImage toolkitPicture(const ItemTextSetting &setting, int flag)
 
 } // namespace
 
-Q_DECLARE_METATYPE(TARN::ItemTextSetting)
+Q_DECLARE_METATYPE(TARN::ParagraphSetting)
 
 /// Texts that are laid out once and drawn many times.
 class ItemTextTest : public QObject
@@ -77,23 +77,23 @@ private Q_SLOTS:
         QFETCH(QString, string);
         QFETCH(QString, hidden);
         QFETCH(QString, underlined);
-        ItemTextSetting setting = settingOf(string);
-        QCOMPARE(ItemText(setting).visibleText(), string);
+        ParagraphSetting setting = settingOf(string);
+        QCOMPARE(Paragraph(setting).visibleText(), string);
         setting.mnemonic = Mnemonic::Hidden;
-        QCOMPARE(ItemText(setting).visibleText(), hidden);
+        QCOMPARE(Paragraph(setting).visibleText(), hidden);
         QCOMPARE(pictureOf(setting), toolkitPicture(setting, Qt::TextHideMnemonic));
         setting.mnemonic = Mnemonic::Underlined;
-        QCOMPARE(ItemText(setting).visibleText(), underlined);
+        QCOMPARE(Paragraph(setting).visibleText(), underlined);
         QCOMPARE(pictureOf(setting), toolkitPicture(setting, Qt::TextShowMnemonic));
     }
 
     void mnemonicOfElidedText()
     {
-        ItemTextSetting setting = settingOf(text("&Wide enough for nothing"), 80);
+        ParagraphSetting setting = settingOf(text("&Wide enough for nothing"), 80);
         setting.mnemonic = Mnemonic::Hidden;
         const QImage plain = pictureOf(setting);
         setting.mnemonic = Mnemonic::Underlined;
-        QVERIFY(ItemText(setting).visibleText().endsWith(QChar(0x2026)));
+        QVERIFY(Paragraph(setting).visibleText().endsWith(QChar(0x2026)));
         QVERIFY(pictureOf(setting) != plain);
         setting.text = text("Wide enough for &nothing");
         QCOMPARE(pictureOf(setting), plain);
@@ -101,15 +101,15 @@ private Q_SLOTS:
 
     void keepsTexts()
     {
-        const auto first = ItemText::of(settingOf(text("Kept")));
-        QCOMPARE(ItemText::of(settingOf(text("Kept"))), first);
+        const auto first = Paragraph::of(settingOf(text("Kept")));
+        QCOMPARE(Paragraph::of(settingOf(text("Kept"))), first);
     }
 
     void distinguishesSettings_data()
     {
-        QTest::addColumn<ItemTextSetting>("other");
-        const ItemTextSetting setting = settingOf(text("One text"));
-        ItemTextSetting other = setting;
+        QTest::addColumn<ParagraphSetting>("other");
+        const ParagraphSetting setting = settingOf(text("One text"));
+        ParagraphSetting other = setting;
         other.font.setBold(true);
         QTest::newRow("font") << other;
         other = setting;
@@ -134,13 +134,13 @@ private Q_SLOTS:
 
     void distinguishesSettings()
     {
-        QFETCH(ItemTextSetting, other);
-        QVERIFY(ItemText::of(settingOf(text("One text"))) != ItemText::of(other));
+        QFETCH(ParagraphSetting, other);
+        QVERIFY(Paragraph::of(settingOf(text("One text"))) != Paragraph::of(other));
     }
 
     void drawsInAnyColor()
     {
-        const ItemTextSetting setting = settingOf(text("Colour"));
+        const ParagraphSetting setting = settingOf(text("Colour"));
         pictureOf(setting, Qt::black);
         const QImage red = pictureOf(setting, Qt::red);
         for (int y = 0; y < red.height(); ++y) {
@@ -154,32 +154,32 @@ private Q_SLOTS:
     /// What was dropped looks the same when it is laid out again.
     void survivesMoreTextsThanAreKept()
     {
-        const ItemTextSetting setting = settingOf(text("First"));
-        const auto first = ItemText::of(setting);
+        const ParagraphSetting setting = settingOf(text("First"));
+        const auto first = Paragraph::of(setting);
         const QImage picture = pictureOf(setting);
         for (int i = 0; i < 3000; ++i) {
-            ItemText::of(settingOf(QString::number(i)));
+            Paragraph::of(settingOf(QString::number(i)));
         }
-        QVERIFY(ItemText::of(setting) != first);
+        QVERIFY(Paragraph::of(setting) != first);
         QCOMPARE(pictureOf(setting), picture);
     }
 
     void longTexts()
     {
-        const auto longText = ItemText::of(settingOf(QString(200000, QLatin1Char('m'))));
+        const auto longText = Paragraph::of(settingOf(QString(200000, QLatin1Char('m'))));
         QVERIFY(longText->visibleText().size() < 100);
     }
 
     void ink()
     {
-        const ItemText fitting(settingOf(text("Fits")));
+        const Paragraph fitting(settingOf(text("Fits")));
         QVERIFY(QRectF(0, 0, 200, 20).contains(fitting.ink()));
-        ItemTextSetting wide = settingOf(text("Wider than its room"), 40);
+        ParagraphSetting wide = settingOf(text("Wider than its room"), 40);
         wide.elideMode = Qt::ElideNone;
-        QVERIFY(ItemText(wide).ink().right() > 40);
-        ItemTextSetting high = settingOf(text("High"));
+        QVERIFY(Paragraph(wide).ink().right() > 40);
+        ParagraphSetting high = settingOf(text("High"));
         high.room.setHeight(5);
-        QVERIFY(ItemText(high).ink().height() > 5);
+        QVERIFY(Paragraph(high).ink().height() > 5);
     }
 };
 

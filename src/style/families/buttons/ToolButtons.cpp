@@ -1,10 +1,13 @@
 #include "style/families/buttons/ToolButtons.h"
 
-#include "style/BaseStyle.h"
 #include "style/asking/OptionState.h"
 #include "style/asking/Properties.h"
-#include "style/drawing/Drawing.h"
-#include "style/families/buttons/PushButtons.h"
+#include "style/brushes/ButtonBrushChoice.h"
+#include "style/brushes/LabelBrushes.h"
+#include "style/drawing/Icons.h"
+#include "style/families/buttons/ButtonParts.h"
+#include "style/text/ElidedText.h"
+#include "style/text/Mnemonic.h"
 
 #include <QtGui/QPainter>
 #include <QtWidgets/QStyleOption>
@@ -38,28 +41,25 @@ bool standsOut(QStyle::State state)
     return state & (QStyle::State_Sunken | QStyle::State_On | QStyle::State_Raised);
 }
 
-QStyleOptionToolButton partOf(const BaseStyle &style, const PaintRequest &request,
-                              const QStyleOptionToolButton &button, QStyle::SubControl part)
+QStyleOptionToolButton partOf(const PaintRequest &request, const QStyleOptionToolButton &button,
+                              QStyle::SubControl part)
 {
     QStyleOptionToolButton option = button;
     option.rect =
-        style.proxy()->subControlRect(QStyle::CC_ToolButton, &button, part, request.widget);
+        request.proxy().subControlRect(QStyle::CC_ToolButton, &button, part, request.widget);
     option.state = partState(button, part);
     return option;
 }
 
-void drawMenuPart(const BaseStyle &style, const PaintRequest &request,
-                  const QStyleOptionToolButton &button)
+void drawMenuPart(const PaintRequest &request, const QStyleOptionToolButton &button)
 {
-    QStyleOptionToolButton part = partOf(style, request, button, QStyle::SC_ToolButtonMenu);
+    QStyleOptionToolButton part = partOf(request, button, QStyle::SC_ToolButtonMenu);
     // No part of it is the menu's: this is what tells the menu's part from the face.
     part.subControls = QStyle::SC_None;
     if (standsOut(part.state)) {
-        style.proxy()->drawPrimitive(QStyle::PE_IndicatorButtonDropDown, &part, request.painter,
-                                     request.widget);
+        request.draw(QStyle::PE_IndicatorButtonDropDown, part);
     }
-    style.proxy()->drawPrimitive(QStyle::PE_IndicatorArrowDown, &part, request.painter,
-                                 request.widget);
+    request.draw(QStyle::PE_IndicatorArrowDown, part);
 }
 
 QIcon::Mode iconMode(const QStyleOptionToolButton &button)
@@ -131,118 +131,18 @@ bool showsOnlyText(const QStyleOptionToolButton &button)
            (!hasPicture && !button.text.isEmpty());
 }
 
-void drawLabelText(const BaseStyle &style, const PaintRequest &request,
-                   const QStyleOptionToolButton &button, const QRect &rect, int alignment)
+void drawLabelText(const PaintRequest &request, const QStyleOptionToolButton &button,
+                   const QRect &rect, int alignment)
 {
-    const int flags = mnemonicFlags(style, request);
+    const int flags = mnemonicFlags(request);
     const QString text =
         elidedText(button.fontMetrics, button.text, Qt::ElideMiddle, rect.width(), flags);
     const QFont font = request.painter->font();
     request.painter->setFont(button.font);
-    style.proxy()->drawItemText(request.painter, rect, alignment | flags, button.palette,
-                                isEnabled(button), text, QPalette::ButtonText);
+    request.proxy().drawItemText(request.painter, rect, alignment | flags, button.palette,
+                                 isEnabled(button), text, QPalette::ButtonText);
     request.painter->setFont(font);
 }
-
-} // namespace
-
-bool showsMenuArrow(const QStyleOptionToolButton &option, const QWidget *widget)
-{
-    return option.features.testFlag(QStyleOptionToolButton::HasMenu) &&
-           !option.features.testFlag(QStyleOptionToolButton::Arrow) &&
-           !option.features.testFlag(QStyleOptionToolButton::Menu) &&
-           !isSet(widget, "no menu arrow");
-}
-
-bool isMenuPart(const QStyleOption &option)
-{
-    const auto *button = qstyleoption_cast<const QStyleOptionToolButton *>(&option);
-    return button && button->features.testFlag(QStyleOptionToolButton::MenuButtonPopup) &&
-           !button->subControls.testFlag(QStyle::SC_ToolButton);
-}
-
-Helpers::StraightCornerFlags straightCorners(const QStyleOption &option)
-{
-    const auto *button = qstyleoption_cast<const QStyleOptionToolButton *>(&option);
-    const bool isSplit =
-        button && (isMenuPart(option) || button->subControls.testFlag(QStyle::SC_ToolButtonMenu));
-    if (!isSplit) {
-        return Helpers::NoStraightCorner;
-    }
-    const bool adjoinsOnTheLeft = isMenuPart(option) != isRightToLeft(option);
-    return adjoinsOnTheLeft ? Helpers::StraightTopLeft | Helpers::StraightBottomLeft
-                            : Helpers::StraightTopRight | Helpers::StraightBottomRight;
-}
-
-bool drawToolButton(const BaseStyle &style, const PaintRequest &request)
-{
-    const auto *button = qstyleoption_cast<const QStyleOptionToolButton *>(request.option);
-    if (!button) {
-        return false;
-    }
-    const QStyle &proxy = *style.proxy();
-    QStyleOptionToolButton face = partOf(style, request, *button, QStyle::SC_ToolButton);
-    if (button->subControls.testFlag(QStyle::SC_ToolButton) && standsOut(face.state)) {
-        proxy.drawPrimitive(QStyle::PE_PanelButtonTool, &face, request.painter, request.widget);
-    }
-    if (button->subControls.testFlag(QStyle::SC_ToolButtonMenu)) {
-        drawMenuPart(style, request, *button);
-    }
-    useForeground(face,
-                  Buttons::labelBrush(BaseStyle::buttonBrushes(&face, request.widget).foreground,
-                                      isEnabled(face)));
-    Buttons::drawFocus(style, request, face.palette,
-                       face.rect.adjusted(focusMargin, focusMargin, -focusMargin, -focusMargin));
-    const int frame =
-        proxy.pixelMetric(QStyle::PM_DefaultFrameWidth, request.option, request.widget);
-    face.rect.adjust(frame, frame, -frame, -frame);
-    if (showsMenuArrow(*button, request.widget)) {
-        QStyleOption arrow = face;
-        const int width = Buttons::menuColumnWidth(style, request);
-        arrow.rect = Buttons::menuColumn(face.rect, width, face.direction);
-        face.rect = Buttons::besideMenuColumn(face.rect, width, face.direction);
-        proxy.drawPrimitive(QStyle::PE_IndicatorArrowDown, &arrow, request.painter, request.widget);
-    }
-    proxy.drawControl(QStyle::CE_ToolButtonLabel, &face, request.painter, request.widget);
-    return true;
-}
-
-bool drawLabel(const BaseStyle &style, const PaintRequest &request)
-{
-    const auto *button = qstyleoption_cast<const QStyleOptionToolButton *>(request.option);
-    if (!button) {
-        return false;
-    }
-    if (showsOnlyText(*button)) {
-        drawLabelText(style, request, *button, button->rect, Qt::AlignCenter);
-        return true;
-    }
-    const bool hasArrow = button->features.testFlag(QStyleOptionToolButton::Arrow);
-    const QPixmap pixmap =
-        hasArrow
-            ? QPixmap()
-            : iconPixmap(button->icon, button->iconSize.boundedTo(button->rect.size()),
-                         iconMode(*button), has(*button, QStyle::State_On) ? QIcon::On : QIcon::Off,
-                         request.widget);
-    const LabelPlaces places =
-        labelPlaces(*button, hasArrow ? button->iconSize : sizeOf(pixmap), request.widget);
-    if (hasArrow) {
-        style.drawToolButtonArrow(style.proxy(), button, places.icon, request.painter,
-                                  request.widget);
-    } else {
-        drawItemPixmap(style, *request.painter, places.icon, pixmap);
-    }
-    if (button->toolButtonStyle != Qt::ToolButtonIconOnly) {
-        drawLabelText(style, request, *button, places.text, places.textAlignment);
-    }
-    return true;
-}
-
-} // namespace TARN::ToolButtons
-
-namespace TARN {
-
-namespace {
 
 /// Returns the element that draws \a arrow; PE_CustomBase when there is no arrow.
 QStyle::PrimitiveElement elementOf(Qt::ArrowType arrow)
@@ -261,22 +161,106 @@ QStyle::PrimitiveElement elementOf(Qt::ArrowType arrow)
     }
 }
 
-} // namespace
-
-void BaseStyle::drawToolButtonArrow(const QStyle *style, const QStyleOptionToolButton *option,
-                                    const QRect &rect, QPainter *painter,
-                                    const QWidget *widget) const
+bool showsMenuArrow(const QStyleOptionToolButton &option, const QWidget *widget)
 {
-    const PrimitiveElement element = elementOf(option->arrowType);
-    if (element == PE_CustomBase) {
-        return;
-    }
-    QStyleOption arrow = *option;
-    arrow.rect = rect;
-    // The caller's own option is prepared, so that the text which it paints next matches the arrow.
-    useForeground(const_cast<QStyleOptionToolButton &>(*option),
-                  buttonBrushes(option, widget).foreground);
-    style->drawPrimitive(element, &arrow, painter, widget);
+    return option.features.testFlag(QStyleOptionToolButton::HasMenu) &&
+           !option.features.testFlag(QStyleOptionToolButton::Arrow) &&
+           !option.features.testFlag(QStyleOptionToolButton::Menu) &&
+           !isSet(widget, "no menu arrow");
 }
 
-} // namespace TARN
+} // namespace
+
+QSize toolButtonSize(const ContentsRequest &request)
+{
+    QSize size = request.baseSize();
+    const auto *option = qstyleoption_cast<const QStyleOptionToolButton *>(request.option);
+    if (!option) {
+        return size;
+    }
+    if (request.widget && showsMenuArrow(*option, request.widget)) {
+        size.rwidth() += request.metric(QStyle::PM_MenuButtonIndicator);
+    }
+    // An even height keeps the icon on whole pixels.
+    size.rheight() += size.height() % 2;
+    return size;
+}
+
+void drawArrow(const QStyle &style, const QStyleOptionToolButton &option, const QRect &rect,
+               QPainter &painter, const QWidget *widget)
+{
+    const QStyle::PrimitiveElement element = elementOf(option.arrowType);
+    if (element == QStyle::PE_CustomBase) {
+        return;
+    }
+    QStyleOption arrow = option;
+    arrow.rect = rect;
+    // The caller's own option is prepared, so that the text which it paints next matches the arrow.
+    useForeground(const_cast<QStyleOptionToolButton &>(option),
+                  buttonBrushes(&option, widget).foreground);
+    style.drawPrimitive(element, &arrow, &painter, widget);
+}
+
+bool drawToolButton(const PaintRequest &request)
+{
+    const auto *button = qstyleoption_cast<const QStyleOptionToolButton *>(request.option);
+    if (!button) {
+        return false;
+    }
+    const QStyle &proxy = request.proxy();
+    QStyleOptionToolButton face = partOf(request, *button, QStyle::SC_ToolButton);
+    if (button->subControls.testFlag(QStyle::SC_ToolButton) && standsOut(face.state)) {
+        proxy.drawPrimitive(QStyle::PE_PanelButtonTool, &face, request.painter, request.widget);
+    }
+    if (button->subControls.testFlag(QStyle::SC_ToolButtonMenu)) {
+        drawMenuPart(request, *button);
+    }
+    useForeground(face,
+                  labelBrush(buttonBrushes(&face, request.widget).foreground, isEnabled(face)));
+    Buttons::drawFocus(request, face.palette,
+                       face.rect.adjusted(focusMargin, focusMargin, -focusMargin, -focusMargin));
+    const int frame =
+        proxy.pixelMetric(QStyle::PM_DefaultFrameWidth, request.option, request.widget);
+    face.rect.adjust(frame, frame, -frame, -frame);
+    if (showsMenuArrow(*button, request.widget)) {
+        QStyleOption arrow = face;
+        const int width = Buttons::menuColumnWidth(request);
+        arrow.rect = Buttons::menuColumn(face.rect, width, face.direction);
+        face.rect = Buttons::besideMenuColumn(face.rect, width, face.direction);
+        proxy.drawPrimitive(QStyle::PE_IndicatorArrowDown, &arrow, request.painter, request.widget);
+    }
+    proxy.drawControl(QStyle::CE_ToolButtonLabel, &face, request.painter, request.widget);
+    return true;
+}
+
+bool drawLabel(const PaintRequest &request)
+{
+    const auto *button = qstyleoption_cast<const QStyleOptionToolButton *>(request.option);
+    if (!button) {
+        return false;
+    }
+    if (showsOnlyText(*button)) {
+        drawLabelText(request, *button, button->rect, Qt::AlignCenter);
+        return true;
+    }
+    const bool hasArrow = button->features.testFlag(QStyleOptionToolButton::Arrow);
+    const QPixmap pixmap =
+        hasArrow
+            ? QPixmap()
+            : iconPixmap(button->icon, button->iconSize.boundedTo(button->rect.size()),
+                         iconMode(*button), has(*button, QStyle::State_On) ? QIcon::On : QIcon::Off,
+                         request.widget);
+    const LabelPlaces places =
+        labelPlaces(*button, hasArrow ? button->iconSize : sizeOf(pixmap), request.widget);
+    if (hasArrow) {
+        drawArrow(request.proxy(), *button, places.icon, *request.painter, request.widget);
+    } else {
+        drawItemPixmap(request.proxy(), *request.painter, places.icon, pixmap);
+    }
+    if (button->toolButtonStyle != Qt::ToolButtonIconOnly) {
+        drawLabelText(request, *button, places.text, places.textAlignment);
+    }
+    return true;
+}
+
+} // namespace TARN::ToolButtons

@@ -2,11 +2,9 @@
 
 #include "catalogue/Names.h"
 #include "resources/kept/ProcessCache.h"
-#include "style/BaseStyle.h"
 #include "style/asking/OptionState.h"
 #include "style/asking/Properties.h"
-#include "style/families/ToolBars.h"
-#include "style/tables/Geometry.h"
+#include "style/drawing/Grips.h"
 
 #include <QtGui/QPainter>
 #include <QtWidgets/QListView>
@@ -16,7 +14,7 @@ namespace TARN::ItemViews {
 namespace {
 
 constexpr int leastItemHeight = 26;
-constexpr int gripLength = 7 * ToolBars::gripStep;
+constexpr int gripLength = 7 * gripStep;
 constexpr char cascadingList[] = "TARN::Components::CascadingListViewPanel";
 
 bool isList(const QWidget *widget)
@@ -36,16 +34,16 @@ bool fillsTheRest(const QStyleOptionViewItem &option)
 
 /// Returns the base style's rectangle, for which it lays the text out to measure it. It is spared
 /// that for texts that need no measure.
-QRect itemRect(const BaseStyle &style, const SubElementRequest &request)
+QRect itemRect(const SubElementRequest &request)
 {
     const auto *option = qstyleoption_cast<const QStyleOptionViewItem *>(request.option);
     if (!option || option->text.isEmpty() || !fillsTheRest(*option)) {
-        return baseRect(style, request);
+        return request.baseRect();
     }
     QStyleOptionViewItem textless(*option);
     textless.text.clear();
     textless.features &= ~QStyleOptionViewItem::HasDisplay;
-    return baseRect(style, {request.element, &textless, request.widget});
+    return SubElementRequest{request.style, request.element, &textless, request.widget}.baseRect();
 }
 
 bool isInComboBoxPopup(const QWidget *widget)
@@ -121,27 +119,26 @@ private:
 
 } // namespace
 
-int listViewPadding(const BaseStyle &style)
+int listViewPadding(const QStyle &proxy)
 {
     static ProcessKept<int> padding;
-    return padding.value([&style] {
-        return style.proxy()->pixelMetric(
-            static_cast<QStyle::PixelMetric>(BaseStyle::TARN_PM_ListViewPadding));
+    return padding.value([&proxy] {
+        return proxy.pixelMetric(static_cast<QStyle::PixelMetric>(listViewPaddingMetric));
     });
 }
 
-QRect decorationRect(const BaseStyle &style, const SubElementRequest &request)
+QRect decorationRect(const SubElementRequest &request)
 {
-    const QRect rect = itemRect(style, request);
+    const QRect rect = itemRect(request);
     if (!rect.isValid() || !isList(request.widget) || !isA(request.widget, cascadingList)) {
         return rect;
     }
-    return rect.translated(listViewPadding(style), 0);
+    return rect.translated(listViewPadding(request.proxy()), 0);
 }
 
-QRect textRect(const BaseStyle &style, const SubElementRequest &request)
+QRect textRect(const SubElementRequest &request)
 {
-    const QRect rect = itemRect(style, request);
+    const QRect rect = itemRect(request);
     if (!rect.isValid() || !isList(request.widget)) {
         return rect;
     }
@@ -149,18 +146,18 @@ QRect textRect(const BaseStyle &style, const SubElementRequest &request)
         return rect.translated(-1, 0);
     }
     if (isA(request.widget, cascadingList)) {
-        const int padding = listViewPadding(style);
+        const int padding = listViewPadding(request.proxy());
         return rect.adjusted(padding, 0, -padding, 0);
     }
     return rect;
 }
 
-QSize itemSize(const BaseStyle &style, const ContentsRequest &request)
+QSize itemSize(const ContentsRequest &request)
 {
-    return baseSize(style, request).expandedTo(QSize(0, leastItemHeight));
+    return request.baseSize().expandedTo(QSize(0, leastItemHeight));
 }
 
-void polishPalette(BaseStyle & /*style*/, QWidget &widget)
+void polishPalette(QWidget &widget)
 {
     if (isSet(&widget, "customItemViewPalette")) {
         return;
@@ -173,7 +170,7 @@ void polishPalette(BaseStyle & /*style*/, QWidget &widget)
     widget.setPalette(palette);
 }
 
-void polishItems(BaseStyle & /*style*/, QWidget &widget)
+void polishItems(QWidget &widget)
 {
     if (isSet(&widget, "customItemDelegate")) {
         return;
@@ -196,7 +193,7 @@ bool showsHover(const QStyleOptionViewItem &option, const QWidget *widget)
     return isHovered(option) && isSet(widget, "highlightItemsOnMouseHover");
 }
 
-bool drawColumnArrow(const BaseStyle &style, const PaintRequest &request)
+bool drawColumnArrow(const PaintRequest &request)
 {
     const auto *option = qstyleoption_cast<const QStyleOptionViewItem *>(request.option);
     if (!option) {
@@ -207,13 +204,13 @@ bool drawColumnArrow(const BaseStyle &style, const PaintRequest &request)
         arrow.palette.setBrush(QPalette::WindowText,
                                arrow.palette.brush(QPalette::HighlightedText));
     }
-    style.drawPrimitive(isRightToLeft(arrow) ? QStyle::PE_IndicatorArrowLeft
-                                             : QStyle::PE_IndicatorArrowRight,
-                        &arrow, request.painter, request.widget);
+    request.style.drawPrimitive(isRightToLeft(arrow) ? QStyle::PE_IndicatorArrowLeft
+                                                     : QStyle::PE_IndicatorArrowRight,
+                                &arrow, request.painter, request.widget);
     return true;
 }
 
-bool drawItemPanel(const BaseStyle &style, const PaintRequest &request)
+bool drawItemPanel(const PaintRequest &request)
 {
     const auto *option = qstyleoption_cast<const QStyleOptionViewItem *>(request.option);
     if (!option) {
@@ -232,15 +229,15 @@ bool drawItemPanel(const BaseStyle &style, const PaintRequest &request)
         panel.fillByModel();
         if (isSelected) {
             // As everywhere in the toolkit, such a selection covers the text alone.
-            panel.fillSelected(
-                style.proxy()->subElementRect(QStyle::SE_ItemViewItemText, option, request.widget));
+            panel.fillSelected(request.proxy().subElementRect(QStyle::SE_ItemViewItemText, option,
+                                                              request.widget));
         }
     }
     panel.drawSeparator();
     return true;
 }
 
-bool drawRow(const BaseStyle &style, const PaintRequest &request)
+bool drawRow(const PaintRequest &request)
 {
     const auto *option = qstyleoption_cast<const QStyleOptionViewItem *>(request.option);
     if (!option) {
@@ -256,8 +253,8 @@ bool drawRow(const BaseStyle &style, const PaintRequest &request)
         return true;
     }
     if (has(*option, QStyle::State_Selected) &&
-        style.proxy()->styleHint(QStyle::SH_ItemView_ShowDecorationSelected, option,
-                                 request.widget) != 0) {
+        request.proxy().styleHint(QStyle::SH_ItemView_ShowDecorationSelected, option,
+                                  request.widget) != 0) {
         panel.fillSelected(option->rect);
     } else {
         panel.fillAtRest();
@@ -266,7 +263,7 @@ bool drawRow(const BaseStyle &style, const PaintRequest &request)
     return true;
 }
 
-bool drawColumnGrip(const BaseStyle &style, const PaintRequest &request)
+bool drawColumnGrip(const PaintRequest &request)
 {
     const QRect &rect = request.option->rect;
     if (rect.isEmpty()) {
@@ -276,8 +273,7 @@ bool drawColumnGrip(const BaseStyle &style, const PaintRequest &request)
     const QPoint center = rect.center();
     const int from = qMax(center.y() - gripLength / 2, rect.top());
     const int to = qMin(from + gripLength, rect.bottom());
-    style.drawGrips(*request.painter, Qt::Vertical, from, to, center.x(), ToolBars::gripStep,
-                    ToolBars::lightGrip, ToolBars::darkGrip);
+    drawGrips(*request.painter, Qt::Vertical, from, to, center.x());
     return true;
 }
 

@@ -1,10 +1,12 @@
+#include "style/families/item_views/Items.h"
+
 #include "catalogue/Names.h"
 #include "resources/ThemeColorHelper.h"
 #include "resources/kept/ProcessCache.h"
-#include "style/BaseStyle.h"
 #include "style/asking/OptionState.h"
 #include "style/asking/Properties.h"
-#include "style/drawing/Drawing.h"
+#include "style/drawing/Icons.h"
+#include "style/drawing/Shapes.h"
 #include "style/families/item_views/ItemViews.h"
 #include "style/text/Paragraph.h"
 
@@ -18,11 +20,11 @@ namespace {
 
 /// Returns how far a scroll bar that lies over the view may reach into it, which is asked for once
 /// in a process.
-int verticalScrollBarPadding(const BaseStyle &style)
+int verticalScrollBarPadding(const QStyle &proxy)
 {
     static ProcessKept<int> sVerticalScrollBarPadding;
     return sVerticalScrollBarPadding.value(
-        [&style] { return style.proxy()->pixelMetric(QStyle::PM_ScrollBarExtent); });
+        [&proxy] { return proxy.pixelMetric(QStyle::PM_ScrollBarExtent); });
 }
 
 QPalette::ColorGroup colorGroup(const QStyleOption &option)
@@ -48,8 +50,7 @@ bool hasChildIndicator(const QStyleOptionViewItem &option, const QWidget *widget
 class ItemPainter
 {
 public:
-    ItemPainter(const BaseStyle &style, const QStyleOptionViewItem &option,
-                const PaintRequest &request);
+    ItemPainter(const QStyleOptionViewItem &option, const PaintRequest &request);
 
     void paint();
 
@@ -71,7 +72,7 @@ private:
     void drawFocus() const;
     void drawChildIndicator() const;
 
-    const BaseStyle &m_style;
+    const QStyle &m_proxy;
     const QStyleOptionViewItem &m_option;
     QPainter &m_painter;
     const QWidget *m_widget;
@@ -80,13 +81,12 @@ private:
     QRect m_iconRect;
     QRect m_textRect;
     QPoint m_textCorner;
-    std::shared_ptr<const ItemText> m_text;
+    std::shared_ptr<const Paragraph> m_text;
     QRect m_childIndicatorRect;
 };
 
-ItemPainter::ItemPainter(const BaseStyle &style, const QStyleOptionViewItem &option,
-                         const PaintRequest &request)
-    : m_style(style)
+ItemPainter::ItemPainter(const QStyleOptionViewItem &option, const PaintRequest &request)
+    : m_proxy(request.proxy())
     , m_option(option)
     , m_painter(*request.painter)
     , m_widget(request.widget)
@@ -100,7 +100,7 @@ ItemPainter::ItemPainter(const BaseStyle &style, const QStyleOptionViewItem &opt
 
 void ItemPainter::paint()
 {
-    m_style.proxy()->drawPrimitive(QStyle::PE_PanelItemViewItem, &m_option, &m_painter, m_widget);
+    m_proxy.drawPrimitive(QStyle::PE_PanelItemViewItem, &m_option, &m_painter, m_widget);
     if (staysInside()) {
         drawContents();
         return;
@@ -113,7 +113,7 @@ void ItemPainter::paint()
 
 QRect ItemPainter::rectOf(QStyle::SubElement element) const
 {
-    return m_style.proxy()->subElementRect(element, &m_option, m_widget);
+    return m_proxy.subElementRect(element, &m_option, m_widget);
 }
 
 /// Disabled texts have the same colour on every ground: the selection is so faint then that
@@ -138,11 +138,11 @@ void ItemPainter::placeChildIndicator()
         return;
     }
     const QRect &rect = m_option.rect;
-    const int extent = m_style.proxy()->pixelMetric(QStyle::PM_SmallIconSize, &m_option, m_widget);
-    int right = rect.right() + 1 - listViewPadding(m_style);
+    const int extent = m_proxy.pixelMetric(QStyle::PM_SmallIconSize, &m_option, m_widget);
+    int right = rect.right() + 1 - listViewPadding(m_proxy);
     const auto &view = static_cast<const QListView &>(*m_widget);
     if (isA(view.verticalScrollBar(), "TARN::Components::MinimizedScrollBar")) {
-        right -= verticalScrollBarPadding(m_style);
+        right -= verticalScrollBarPadding(m_proxy);
     }
     m_childIndicatorRect = QStyle::visualRect(
         m_option.direction, rect, QRect(right - extent, rect.top(), extent, rect.height()));
@@ -169,13 +169,12 @@ void ItemPainter::placeText()
             m_textRect.setRight(qMin(m_textRect.right(), m_childIndicatorRect.left() - 1));
         }
     }
-    const int margin =
-        m_style.proxy()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, m_widget) + 1;
+    const int margin = m_proxy.pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, m_widget) + 1;
     const QRect room = m_textRect.adjusted(margin, 0, -margin, 0);
     m_textCorner = room.topLeft();
-    m_text = ItemText::of({m_option.text, m_option.font, room.size(), m_option.displayAlignment,
-                           m_option.textElideMode, m_option.direction,
-                           m_option.features.testFlag(QStyleOptionViewItem::WrapText)});
+    m_text = Paragraph::of({m_option.text, m_option.font, room.size(), m_option.displayAlignment,
+                            m_option.textElideMode, m_option.direction,
+                            m_option.features.testFlag(QStyleOptionViewItem::WrapText)});
 }
 
 void ItemPainter::drawContents() const
@@ -213,8 +212,7 @@ void ItemPainter::drawCheck() const
         check.state |= QStyle::State_On;
         break;
     }
-    m_style.proxy()->drawPrimitive(QStyle::PE_IndicatorItemViewItemCheck, &check, &m_painter,
-                                   m_widget);
+    m_proxy.drawPrimitive(QStyle::PE_IndicatorItemViewItemCheck, &check, &m_painter, m_widget);
 }
 
 void ItemPainter::drawIcon() const
@@ -263,7 +261,7 @@ void ItemPainter::drawFocus() const
     focus.backgroundColor = m_option.palette.color(
         isEnabled(m_option) ? QPalette::Normal : QPalette::Disabled,
         has(m_option, QStyle::State_Selected) ? QPalette::Highlight : QPalette::Window);
-    m_style.proxy()->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, &m_painter, m_widget);
+    m_proxy.drawPrimitive(QStyle::PE_FrameFocusRect, &focus, &m_painter, m_widget);
 }
 
 void ItemPainter::drawChildIndicator() const
@@ -275,14 +273,14 @@ void ItemPainter::drawChildIndicator() const
 
 } // namespace
 
-bool drawItem(const BaseStyle &style, const PaintRequest &request)
+bool drawItem(const PaintRequest &request)
 {
     const auto *option = qstyleoption_cast<const QStyleOptionViewItem *>(request.option);
     if (!option) {
         return false;
     }
     if (!option->rect.isEmpty()) {
-        ItemPainter(style, *option, request).paint();
+        ItemPainter(*option, request).paint();
     }
     return true;
 }

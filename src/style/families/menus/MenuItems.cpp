@@ -2,10 +2,16 @@
 
 #include "catalogue/Names.h"
 #include "resources/ThemeColorHelper.h"
-#include "style/BaseStyle.h"
 #include "style/asking/OptionState.h"
 #include "style/asking/Properties.h"
-#include "style/drawing/Drawing.h"
+#include "style/brushes/ButtonBrushChoice.h"
+#include "style/drawing/Icons.h"
+#include "style/drawing/Lines.h"
+#include "style/drawing/Marks.h"
+#include "style/drawing/Palettes.h"
+#include "style/drawing/Shapes.h"
+#include "style/families/menus/MenuSurfaces.h"
+#include "style/text/Mnemonic.h"
 #include "style/text/Paragraph.h"
 
 #include <QtGui/QPainter>
@@ -27,25 +33,11 @@ constexpr int shortcutExcess = 1;
 constexpr int endOfText = 2 * edge;
 constexpr int endOfTextWithArrow = arrowExtent + 2 * edge - 2;
 
-constexpr int frameDarkness = 160;
-
-/// Tells whether the menu is enabled: a disabled entry lies on the same surface as the others.
-bool isSurfaceEnabled(const PaintRequest &request)
-{
-    return request.widget ? request.widget->isEnabled() : isEnabled(*request.option);
-}
-
-QColor outlineColor(const QStyleOption &option)
-{
-    return option.palette.color(QPalette::Window).darker(frameDarkness);
-}
-
 /// Paints one entry of a menu. The columns for marks and icons are the same in all its entries.
 class EntryPainter
 {
 public:
-    EntryPainter(const BaseStyle &style, const QStyleOptionMenuItem &option,
-                 const PaintRequest &request);
+    EntryPainter(const QStyleOptionMenuItem &option, const PaintRequest &request);
 
     void paint() const;
 
@@ -77,7 +69,6 @@ private:
                   Mnemonic mnemonic) const;
     void drawArrow() const;
 
-    const BaseStyle &m_style;
     const QStyleOptionMenuItem &m_option;
     const PaintRequest &m_request;
     QPainter &m_painter;
@@ -86,10 +77,8 @@ private:
     bool m_isComboBoxEntry;
 };
 
-EntryPainter::EntryPainter(const BaseStyle &style, const QStyleOptionMenuItem &option,
-                           const PaintRequest &request)
-    : m_style(style)
-    , m_option(option)
+EntryPainter::EntryPainter(const QStyleOptionMenuItem &option, const PaintRequest &request)
+    : m_option(option)
     , m_request(request)
     , m_painter(*request.painter)
     , m_widget(request.widget)
@@ -158,7 +147,7 @@ QBrush EntryPainter::iconBrush() const
     }
     QStyleOption atRest(m_option);
     atRest.state = QStyle::State_Enabled;
-    const QBrush brush = BaseStyle::buttonBrushes(&atRest, m_widget).foreground;
+    const QBrush brush = buttonBrushes(&atRest, m_widget).foreground;
     return brush.style() == Qt::NoBrush ? textBrush() : brush;
 }
 
@@ -185,8 +174,8 @@ QRect EntryPainter::column(int left, int width) const
 
 int EntryPainter::markExtent() const
 {
-    return qMin(m_style.proxy()->pixelMetric(QStyle::PM_IndicatorWidth, &m_option, m_widget),
-                m_style.proxy()->pixelMetric(QStyle::PM_SmallIconSize, &m_option, m_widget));
+    return qMin(m_request.proxy().pixelMetric(QStyle::PM_IndicatorWidth, &m_option, m_widget),
+                m_request.proxy().pixelMetric(QStyle::PM_SmallIconSize, &m_option, m_widget));
 }
 
 QSize EntryPainter::iconSize() const
@@ -194,7 +183,7 @@ QSize EntryPainter::iconSize() const
     if (const auto *comboBox = qobject_cast<const QComboBox *>(m_widget)) {
         return comboBox->iconSize();
     }
-    const int extent = m_style.proxy()->pixelMetric(QStyle::PM_SmallIconSize, &m_option, m_widget);
+    const int extent = m_request.proxy().pixelMetric(QStyle::PM_SmallIconSize, &m_option, m_widget);
     return {extent, extent};
 }
 
@@ -248,7 +237,7 @@ void EntryPainter::drawSeparator() const
     const QRect &rect = m_option.rect;
     const QRect line(rect.left() + start, rect.center().y(), rect.width() - start, 1);
     if (!line.isEmpty()) {
-        m_painter.fillRect(visual(line), m_style.lightOutlineBrush(m_option.palette));
+        m_painter.fillRect(visual(line), lightOutlineBrush(m_option.palette));
     }
 }
 
@@ -259,7 +248,7 @@ int EntryPainter::drawSectionTitle() const
     m_painter.setFont(m_option.font);
     const int width = m_option.fontMetrics.horizontalAdvance(m_option.text);
     const QRect room(m_option.rect.adjusted(edge, 0, -edge, 0));
-    m_style.proxy()->drawItemText(
+    m_request.proxy().drawItemText(
         &m_painter, room,
         static_cast<int>(QStyle::visualAlignment(m_option.direction, Qt::AlignLeft)) |
             Qt::AlignVCenter | Qt::TextSingleLine,
@@ -274,9 +263,9 @@ void EntryPainter::drawMark() const
     const QRect square = QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter,
                                              QSize(extent, extent), column(edge, extent));
     if (m_option.checkType == QStyleOptionMenuItem::Exclusive) {
-        m_style.drawRadioMark(&m_painter, square, textBrush());
+        drawRadioMark(m_painter, square, textBrush());
     } else {
-        m_style.drawCheckMark(&m_painter, square, textBrush());
+        drawCheckMark(m_painter, square, textBrush());
     }
 }
 
@@ -311,22 +300,22 @@ void EntryPainter::drawTexts() const
         font.setBold(true);
     }
     drawText(m_option.text.left(tab), font, room,
-             mnemonicFlags(m_style, m_request) == Qt::TextShowMnemonic ? Mnemonic::Underlined
-                                                                       : Mnemonic::Hidden);
+             mnemonicFlags(m_request) == Qt::TextShowMnemonic ? Mnemonic::Underlined
+                                                              : Mnemonic::Hidden);
 }
 
 void EntryPainter::drawText(const QString &text, const QFont &font, const QRect &logicalRoom,
                             Mnemonic mnemonic) const
 {
     const QRect room = visual(logicalRoom);
-    ItemTextSetting setting;
+    ParagraphSetting setting;
     setting.text = text;
     setting.font = font;
     setting.room = room.size();
     setting.elideMode = Qt::ElideMiddle;
     setting.direction = m_option.direction;
     setting.mnemonic = mnemonic;
-    ItemText::of(setting)->draw(m_painter, room.topLeft());
+    Paragraph::of(setting)->draw(m_painter, room.topLeft());
 }
 
 void EntryPainter::drawArrow() const
@@ -338,85 +327,22 @@ void EntryPainter::drawArrow() const
     arrow.state = m_option.state & (QStyle::State_Enabled | QStyle::State_Selected);
     arrow.palette.setBrush(QPalette::WindowText, textBrush());
     arrow.palette.setBrush(QPalette::ButtonText, textBrush());
-    m_style.proxy()->drawPrimitive(isRightToLeft(m_option) ? QStyle::PE_IndicatorArrowLeft
-                                                           : QStyle::PE_IndicatorArrowRight,
-                                   &arrow, &m_painter, m_widget);
-}
-
-/// Draws the icon of an item of a menu bar; without one, its text.
-void drawBarContents(const BaseStyle &style, const PaintRequest &request,
-                     const QStyleOptionMenuItem &option, QPalette::ColorRole role)
-{
-    if (option.icon.isNull()) {
-        const int flags =
-            Qt::AlignCenter | Qt::TextDontClip | Qt::TextSingleLine | mnemonicFlags(style, request);
-        style.proxy()->drawItemText(request.painter, option.rect, flags, option.palette,
-                                    isEnabled(option), option.text, role);
-        return;
-    }
-    const int extent =
-        style.proxy()->pixelMetric(QStyle::PM_SmallIconSize, &option, request.widget);
-    const QPalette::ColorGroup group =
-        isEnabled(option) ? option.palette.currentColorGroup() : QPalette::Disabled;
-    drawTintedIcon(
-        *request.painter,
-        QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, QSize(extent, extent), option.rect),
-        option.icon, option.palette.brush(group, role));
+    m_request.proxy().drawPrimitive(isRightToLeft(m_option) ? QStyle::PE_IndicatorArrowLeft
+                                                            : QStyle::PE_IndicatorArrowRight,
+                                    &arrow, &m_painter, m_widget);
 }
 
 } // namespace
 
-bool drawPanel(const BaseStyle & /*style*/, const PaintRequest &request)
-{
-    const QStyleOption &option = *request.option;
-    if (option.rect.isEmpty()) {
-        return true;
-    }
-    request.painter->fillRect(
-        option.rect, themeBrush(BrushName::BackgroundSubLevel1Brush, isSurfaceEnabled(request)));
-    qDrawPlainRect(request.painter, option.rect, outlineColor(option));
-    return true;
-}
-
-bool drawItem(const BaseStyle &style, const PaintRequest &request)
+bool drawItem(const PaintRequest &request)
 {
     const auto *option = qstyleoption_cast<const QStyleOptionMenuItem *>(request.option);
     if (!option) {
         return false;
     }
     if (!option->rect.isEmpty()) {
-        EntryPainter(style, *option, request).paint();
+        EntryPainter(*option, request).paint();
     }
-    return true;
-}
-
-bool drawBarItem(const BaseStyle &style, const PaintRequest &request)
-{
-    const auto *option = qstyleoption_cast<const QStyleOptionMenuItem *>(request.option);
-    if (!option) {
-        return false;
-    }
-    if (option->rect.isEmpty()) {
-        return true;
-    }
-    const bool isHighlighted =
-        has(*option, QStyle::State_Selected) || has(*option, QStyle::State_MouseOver);
-    if (isHighlighted) {
-        request.painter->fillRect(option->rect,
-                                  themeColor(ColorName::MainColor, isEnabled(*option)));
-    } else {
-        request.painter->fillRect(option->rect, themeBrush(BrushName::BackgroundSubLevel2Brush,
-                                                           isSurfaceEnabled(request)));
-    }
-    drawBarContents(style, request, *option,
-                    isHighlighted ? QPalette::HighlightedText : QPalette::ButtonText);
-    return true;
-}
-
-bool drawBarEmptyArea(const BaseStyle & /*style*/, const PaintRequest &request)
-{
-    request.painter->fillRect(request.option->rect, themeBrush(BrushName::BackgroundSubLevel2Brush,
-                                                               isSurfaceEnabled(request)));
     return true;
 }
 

@@ -2,10 +2,11 @@
 
 #include "resources/ThemeResources.h"
 #include "resources/kept/ProcessCache.h"
-#include "style/BaseStyle.h"
+#include "style/asking/Backgrounds.h"
 #include "style/asking/Properties.h"
-#include "style/tables/Geometry.h"
+#include "style/families/tabs/TabSides.h"
 #include "style/tables/Polishing.h"
+#include "style/text/WidgetFont.h"
 
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QStyleOption>
@@ -97,34 +98,9 @@ int stretchedExtent(const QStyleOptionTab &option, const QTabBar &tabBar, int ex
 
 } // namespace
 
-bool isSouth(QTabBar::Shape shape)
+QRect tabBarRect(const SubElementRequest &request)
 {
-    return shape == QTabBar::RoundedSouth || shape == QTabBar::TriangularSouth;
-}
-
-bool isWest(QTabBar::Shape shape)
-{
-    return shape == QTabBar::RoundedWest || shape == QTabBar::TriangularWest;
-}
-
-bool isEast(QTabBar::Shape shape)
-{
-    return shape == QTabBar::RoundedEast || shape == QTabBar::TriangularEast;
-}
-
-bool isVertical(QTabBar::Shape shape)
-{
-    return isWest(shape) || isEast(shape);
-}
-
-bool isCurrentTabHighlighted(const QWidget *tabBar)
-{
-    return isSet(tabBar, "currentTabHighlighted") || isSet(qApp, "appCurrentTabHighlighted");
-}
-
-QRect tabBarRect(const BaseStyle &style, const SubElementRequest &request)
-{
-    QRect rect = baseRect(style, request);
+    QRect rect = request.baseRect();
     const auto *option = qstyleoption_cast<const QStyleOptionTabWidgetFrame *>(request.option);
     if (!option || !isSet(request.widget, "stretched")) {
         return rect;
@@ -137,9 +113,9 @@ QRect tabBarRect(const BaseStyle &style, const SubElementRequest &request)
     return rect;
 }
 
-QRect rightButtonRect(const BaseStyle &style, const SubElementRequest &request)
+QRect rightButtonRect(const SubElementRequest &request)
 {
-    QRect rect = baseRect(style, request);
+    QRect rect = request.baseRect();
     const auto *option = qstyleoption_cast<const QStyleOptionTab *>(request.option);
     if (!option) {
         return rect;
@@ -161,13 +137,13 @@ QRect rightButtonRect(const BaseStyle &style, const SubElementRequest &request)
     return rect;
 }
 
-QRect textRect(const BaseStyle &style, const SubElementRequest &request)
+QRect textRect(const SubElementRequest &request)
 {
     QRect rect =
-        style.QCommonStyle::subElementRect(request.element, request.option, request.widget);
+        request.style.QCommonStyle::subElementRect(request.element, request.option, request.widget);
     const auto *option = qstyleoption_cast<const QStyleOptionTab *>(request.option);
     const bool isBold = option && !isCurrentTabHighlighted(request.widget) &&
-                        style.getTabBackgroundState(*option) == 0;
+                        tabBackground(*option) == TabBackground::Selected;
     if (!isBold) {
         return rect;
     }
@@ -181,9 +157,9 @@ QRect textRect(const BaseStyle &style, const SubElementRequest &request)
     return rect;
 }
 
-QSize tabSize(const BaseStyle &style, const ContentsRequest &request)
+QSize tabSize(const ContentsRequest &request)
 {
-    QSize size = baseSize(style, request);
+    QSize size = request.baseSize();
     const auto *tabBar = qobject_cast<const QTabBar *>(request.widget);
     if (!tabBar) {
         return size;
@@ -200,7 +176,7 @@ QSize tabSize(const BaseStyle &style, const ContentsRequest &request)
     return size;
 }
 
-void polishFont(BaseStyle & /*style*/, QWidget &widget)
+void polishFont(QWidget &widget)
 {
     setPolishedFont(widget, ThemeResources::getFont(fontSize(widget)));
 }

@@ -1,15 +1,13 @@
-#include "style/families/TipsAndStatus.h"
+#include "style/families/ToolTips.h"
 
 #include "catalogue/Names.h"
-#include "style/BaseStyle.h"
-#include "style/asking/OptionState.h"
-#include "style/drawing/Drawing.h"
+#include "style/drawing/Lines.h"
 
 #include <QtGui/QPainter>
 #include <QtWidgets/QStyleOption>
 #include <QtWidgets/QToolTip>
 
-namespace TARN::TipsAndStatus {
+namespace TARN::ToolTips {
 
 namespace {
 
@@ -25,7 +23,7 @@ QBrush tipBorder(const QStyleOption &option)
 
 } // namespace
 
-bool drawTip(const BaseStyle & /*style*/, const PaintRequest &request)
+bool drawTip(const PaintRequest &request)
 {
     const QStyleOption &option = *request.option;
     QPainter &painter = *request.painter;
@@ -34,14 +32,4 @@ bool drawTip(const BaseStyle & /*style*/, const PaintRequest &request)
     return true;
 }
 
-bool drawStatusBar(const BaseStyle & /*style*/, const PaintRequest &request)
-{
-    const QStyleOption &option = *request.option;
-    const bool enabled = isEnabled(option);
-    request.painter->fillRect(option.rect,
-                              themeBrush(BrushName::BackgroundSubLevel1Brush, enabled));
-    fillEdge(*request.painter, option.rect, Qt::TopEdge, BaseStyle::getBorderBrush(enabled));
-    return true;
-}
-
-} // namespace TARN::TipsAndStatus
+} // namespace TARN::ToolTips

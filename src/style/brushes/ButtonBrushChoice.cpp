@@ -1,8 +1,11 @@
+#include "style/brushes/ButtonBrushChoice.h"
+
 #include "catalogue/ComposedBrushes.h"
 #include "catalogue/Names.h"
 #include "catalogue/Words.h"
-#include "style/BaseStyle.h"
+#include "style/asking/OptionState.h"
 #include "style/asking/Properties.h"
+#include "style/brushes/KeptBrushes.h"
 
 #include <QtGui/QCursor>
 #include <QtWidgets/QApplication>
@@ -50,7 +53,7 @@ class ButtonBrushChooser
 public:
     ButtonBrushChooser(const QStyleOption &option, const QWidget *widget);
 
-    BaseStyle::ButtonBrushes choose();
+    ButtonBrushes choose();
 
 private:
     bool has(QStyle::StateFlag flag) const { return m_option.state.testFlag(flag); }
@@ -91,7 +94,7 @@ private:
     bool m_checkable;
     KindWord m_kind;
     StateWord m_state;
-    BaseStyle::ButtonBrushes m_brushes;
+    ButtonBrushes m_brushes;
 };
 
 ButtonBrushChooser::ButtonBrushChooser(const QStyleOption &option, const QWidget *widget)
@@ -106,7 +109,7 @@ ButtonBrushChooser::ButtonBrushChooser(const QStyleOption &option, const QWidget
 {
 }
 
-BaseStyle::ButtonBrushes ButtonBrushChooser::choose()
+ButtonBrushes ButtonBrushChooser::choose()
 {
     chooseByName();
     chooseForFlatButton();
@@ -189,7 +192,7 @@ QBrush ButtonBrushChooser::inputBrush(BrushField field) const
 
 const QBrush &ButtonBrushChooser::cardBorderBrush() const
 {
-    return BaseStyle::getBorderBrush(has(QStyle::State_Enabled));
+    return TARN::cardBorderBrush(has(QStyle::State_Enabled));
 }
 
 void ButtonBrushChooser::chooseByName()
@@ -316,9 +319,9 @@ void ButtonBrushChooser::chooseForWorkflowButton()
 
 } // namespace
 
-BaseStyle::ButtonBrushes BaseStyle::buttonBrushes(const QStyleOption *opt, const QWidget *widget)
+ButtonBrushes buttonBrushes(const QStyleOption *option, const QWidget *widget)
 {
-    return opt ? ButtonBrushChooser(*opt, widget).choose() : ButtonBrushes();
+    return option ? ButtonBrushChooser(*option, widget).choose() : ButtonBrushes();
 }
 
 } // namespace TARN

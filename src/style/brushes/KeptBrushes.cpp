@@ -1,0 +1,32 @@
+#include "style/brushes/KeptBrushes.h"
+
+#include "catalogue/Names.h"
+#include "resources/kept/ProcessCache.h"
+
+namespace TARN {
+
+namespace {
+
+/// Returns the brush \a Name, resolved once for each state. Each instance of this template keeps
+/// the two brushes of one name.
+template <BrushName Name>
+const QBrush &keptBrush(bool enabled)
+{
+    static ProcessCached<QBrush> enabledBrush([] { return themeBrush(Name, true); });
+    static ProcessCached<QBrush> disabledBrush([] { return themeBrush(Name, false); });
+    return enabled ? enabledBrush.value() : disabledBrush.value();
+}
+
+} // namespace
+
+const QBrush &cardBorderBrush(bool enabled)
+{
+    return keptBrush<BrushName::CardBorderBrush>(enabled);
+}
+
+const QBrush &grooveBrush(bool enabled)
+{
+    return keptBrush<BrushName::GrooveBackgroundBrush>(enabled);
+}
+
+} // namespace TARN

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "style/asking/Requests.h"
+
+/// The faces of everything that is a button.
+namespace TARN::Buttons {
+
+bool drawDefaultFrame(const PaintRequest &request);
+bool drawPanel(const PaintRequest &request);
+
+} // namespace TARN::Buttons

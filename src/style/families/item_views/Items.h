@@ -1,0 +1,10 @@
+#pragma once
+
+#include "style/asking/Requests.h"
+
+/// The items of lists, trees and tables.
+namespace TARN::ItemViews {
+
+bool drawItem(const PaintRequest &request);
+
+} // namespace TARN::ItemViews

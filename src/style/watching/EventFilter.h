@@ -1,0 +1,13 @@
+#pragma once
+
+class QEvent;
+class QWidget;
+
+namespace TARN {
+
+class AltKey;
+
+/// Follows what happens to \a widget: tints its icon when it is painted, tells \a altKey of Alt.
+void watch(QWidget &widget, const QEvent &event, AltKey &altKey);
+
+} // namespace TARN
