@@ -1,7 +1,6 @@
 #include "style/drawing/Palettes.h"
 
-#include <array>
-#include <utility>
+#include "resources/kept/SlotCache.h"
 
 namespace TARN {
 
@@ -10,58 +9,33 @@ namespace {
 /// How much the edges of the border palettes differ from those of the palette they are made of.
 constexpr int edgeContrast = 115;
 
-/// The palettes that were last given a brush.
-class ChangedPalettes
+/// A palette that is to have another brush.
+struct Change
 {
-public:
-    QPalette palette(const QPalette &source, QPalette::ColorRole role, const QBrush &brush)
+    QPalette source;
+    QPalette::ColorRole role;
+    QBrush brush;
+
+    bool operator==(const Change &other) const
     {
-        const std::size_t slot = slotOf(source, role, brush);
-        Entry &entry = m_entries.at(slot);
-        Entry &former = m_entries.at((slot + 1) % entryCount);
-        if (!entry.isFor(source, role, brush)) {
-            // Two palettes of one slot would be copied over and over if either drove the other out.
-            std::swap(entry, former);
-            if (!entry.isFor(source, role, brush)) {
-                QPalette changed = source;
-                changed.setBrush(source.currentColorGroup(), role, brush);
-                entry = {source, role, brush, changed};
-            }
-        }
-        return entry.changed;
+        return role == other.role && brush == other.brush && source.isCopyOf(other.source) &&
+               source.currentColorGroup() == other.source.currentColorGroup() &&
+               source.resolve() == other.source.resolve();
     }
 
-private:
-    struct Entry
+    std::size_t hash() const
     {
-        QPalette source;
-        QPalette::ColorRole role = QPalette::NoRole;
-        QBrush brush;
-        QPalette changed;
-
-        bool isFor(const QPalette &otherSource, QPalette::ColorRole otherRole,
-                   const QBrush &otherBrush) const
-        {
-            return role == otherRole && brush == otherBrush && source.isCopyOf(otherSource) &&
-                   source.currentColorGroup() == otherSource.currentColorGroup() &&
-                   source.resolve() == otherSource.resolve();
-        }
-    };
-
-    static constexpr std::size_t entryCount = 127;
-
-    static std::size_t slotOf(const QPalette &source, QPalette::ColorRole role, const QBrush &brush)
-    {
-        auto key = std::size_t(source.cacheKey());
-        for (const unsigned int part :
-             {unsigned(source.currentColorGroup()), unsigned(role), brush.color().rgba()}) {
-            key = key * 31 + part;
-        }
-        return key % entryCount;
+        return mixedHash({std::size_t(source.cacheKey()), std::size_t(source.currentColorGroup()),
+                          std::size_t(role), brush.color().rgba()});
     }
-
-    std::array<Entry, entryCount> m_entries;
 };
+
+QPalette changed(const Change &change)
+{
+    QPalette palette = change.source;
+    palette.setBrush(palette.currentColorGroup(), change.role, change.brush);
+    return palette;
+}
 
 } // namespace
 
@@ -70,8 +44,9 @@ QPalette paletteWith(const QPalette &palette, QPalette::ColorRole role, const QB
     if (brush.style() == Qt::NoBrush) {
         return palette;
     }
-    static ChangedPalettes palettes;
-    return palettes.palette(palette, role, brush);
+    // Setting a brush copies a palette. Nothing outdates what was made of it.
+    static SlotCache<Change, QPalette, 61> palettes(changed);
+    return palettes.value({palette, role, brush});
 }
 
 const QBrush &lightOutlineBrush(const QPalette &palette)

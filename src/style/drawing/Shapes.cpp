@@ -2,6 +2,7 @@
 
 #include "resources/ThemeResources.h"
 #include "resources/kept/ProcessCache.h"
+#include "resources/kept/SlotCache.h"
 
 #include <QtGui/QPainter>
 
@@ -26,31 +27,13 @@ QPen makeOutlinePen(const QBrush &brush)
     return {brush, 1, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin};
 }
 
-/// The pens of the colours that were last used: a pen is allocated, and painting asks for the same
-/// few over and over.
-class OutlinePens
+/// The pen of a plain colour.
+struct PenKey
 {
-public:
-    const QPen &pen(const QBrush &brush)
-    {
-        const quint64 color = brush.color().rgba64();
-        Entry &entry = m_entries.at(color % entryCount);
-        if (entry.color != color || entry.pen.style() == Qt::NoPen) {
-            entry = {color, makeOutlinePen(brush)};
-        }
-        return entry.pen;
-    }
+    QColor color;
 
-private:
-    struct Entry
-    {
-        quint64 color = 0;
-        QPen pen = QPen(Qt::NoPen);
-    };
-
-    static constexpr std::size_t entryCount = 61;
-
-    std::array<Entry, entryCount> m_entries;
+    bool operator==(const PenKey &other) const { return color == other.color; }
+    std::size_t hash() const { return color.rgba64(); }
 };
 
 } // namespace
@@ -71,8 +54,10 @@ QPen outlinePen(const QBrush &brush)
     if (brush.style() != Qt::SolidPattern || brush.color().spec() == QColor::ExtendedRgb) {
         return makeOutlinePen(brush);
     }
-    static OutlinePens pens;
-    return pens.pen(brush);
+    // A pen is allocated, and painting asks for the same few over and over. Nothing outdates them.
+    static SlotCache<PenKey, QPen, 61> pens(
+        [](const PenKey &key) { return makeOutlinePen(key.color); });
+    return pens.value({brush.color()});
 }
 
 void drawShape(QPainter &painter, const QRectF &rect, int radius, const QPen &pen,

@@ -7,7 +7,6 @@
 #include "style/brushes/KeptBrushes.h"
 #include "style/drawing/Lines.h"
 #include "style/drawing/Shapes.h"
-#include "style/tables/Polishing.h"
 #include "style/text/WidgetFont.h"
 
 #include <QtGui/QPainter>

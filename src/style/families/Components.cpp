@@ -3,7 +3,6 @@
 #include "catalogue/Names.h"
 #include "resources/ThemeResources.h"
 #include "style/asking/Properties.h"
-#include "style/tables/Polishing.h"
 #include "style/text/WidgetFont.h"
 
 #include <QtGui/QPixmap>

@@ -5,7 +5,6 @@
 #include "style/asking/Backgrounds.h"
 #include "style/asking/Properties.h"
 #include "style/families/tabs/TabSides.h"
-#include "style/tables/Polishing.h"
 #include "style/text/WidgetFont.h"
 
 #include <QtWidgets/QApplication>
