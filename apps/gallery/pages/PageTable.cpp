@@ -20,7 +20,8 @@ constexpr Name windows("Windows");
 constexpr Name dialogs("Dialogs");
 constexpr Name states("States");
 
-QVector<Page> widgetPages()
+/// Returns the pages of what people set and read values by.
+QVector<Page> controlPages()
 {
     return {
         {Name("push-buttons"), Name("Push buttons"), buttons, createPushButtonsPage},
@@ -48,7 +49,13 @@ QVector<Page> widgetPages()
         {Name("graphics-view"), Name("Graphics view"), displays, createGraphicsViewPage},
         {Name("icons"), Name("Icons"), displays, createIconsPage},
         {Name("cursors"), Name("Cursors"), displays, createCursorsPage},
+    };
+}
 
+/// Returns the pages of what holds many things.
+QVector<Page> containerPages()
+{
+    return {
         {Name("lists"), Name("Lists"), views, createListsPage},
         {Name("icon-view"), Name("Icon view"), views, createIconViewPage},
         {Name("trees"), Name("Trees"), views, createTreesPage},
@@ -94,7 +101,7 @@ QVector<Page> statesPages()
 
 const QVector<Page> &pages()
 {
-    static const QVector<Page> table = widgetPages() + statesPages();
+    static const QVector<Page> table = controlPages() + containerPages() + statesPages();
     return table;
 }
 
