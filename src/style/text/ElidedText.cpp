@@ -1,9 +1,9 @@
 #include "style/text/ElidedText.h"
 
 #include "resources/kept/SlotCache.h"
+#include "style/text/GlyphWatch.h"
 
 #include <QtGui/QFontMetrics>
-#include <QtGui/QGuiApplication>
 
 namespace TARN {
 
@@ -31,28 +31,16 @@ QString elided(const ElidedTextKey &key)
     return key.metrics.elidedText(key.text, key.mode, key.width, key.flags);
 }
 
-using ElidedTexts = SlotCache<ElidedTextKey, QString, 61>;
-
-/// Fonts are not to be taken down after the application, so the texts are left to the end of the
-/// process.
-ElidedTexts &keptTexts()
-{
-    static auto *texts = [] {
-        auto *made = new ElidedTexts(elided);
-        // The same font may now have other glyphs.
-        QObject::connect(qGuiApp, &QGuiApplication::fontDatabaseChanged, qGuiApp,
-                         [made] { made->clear(); });
-        return made;
-    }();
-    return *texts;
-}
-
 } // namespace
 
 QString elidedText(const QFontMetrics &metrics, const QString &text, Qt::TextElideMode mode,
                    int width, int flags)
 {
-    return keptTexts().value({metrics, text, mode, width, flags});
+    // An application may be left without being taken down, so the texts are left, too.
+    static auto *texts = new SlotCache<ElidedTextKey, QString, 61>(elided);
+    static GlyphWatch watch([] { texts->clear(); });
+    watch.attend();
+    return texts->value({metrics, text, mode, width, flags});
 }
 
 } // namespace TARN

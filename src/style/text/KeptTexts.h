@@ -1,9 +1,9 @@
 #pragma once
 
 #include "resources/kept/ProcessCache.h"
+#include "style/text/GlyphWatch.h"
 
 #include <QtCore/QCache>
-#include <QtGui/QGuiApplication>
 
 #include <memory>
 
@@ -17,15 +17,10 @@ std::shared_ptr<const Value> keptText(const Key &key, int cost = 1)
 {
     using Texts = QCache<Key, std::shared_ptr<const Value>>;
     using Kept = ProcessCached<std::unique_ptr<Texts>>;
-    // Fonts are not to be taken down after the application, so the texts are left to the end of
-    // the process.
-    static auto *kept = [] {
-        auto *texts = new Kept([] { return std::make_unique<Texts>(Capacity); });
-        // Glyphs are numbers within a font, and the same font may now be another one.
-        QObject::connect(qGuiApp, &QGuiApplication::fontDatabaseChanged, qGuiApp,
-                         [texts] { texts->value()->clear(); });
-        return texts;
-    }();
+    // An application may be left without being taken down, so the texts are left, too.
+    static auto *kept = new Kept([] { return std::make_unique<Texts>(Capacity); });
+    static GlyphWatch watch([] { kept->value()->clear(); });
+    watch.attend();
     Texts &texts = *kept->value();
     if (const auto *known = texts.object(key)) {
         return *known;

@@ -2,6 +2,7 @@
 
 #include "style/text/KeptTexts.h"
 
+#include <QtGui/QFontInfo>
 #include <QtGui/QFontMetrics>
 #include <QtGui/QGlyphRun>
 #include <QtGui/QPainter>
@@ -14,7 +15,7 @@ bool operator==(const ParagraphSetting &a, const ParagraphSetting &b)
 {
     return a.room == b.room && a.alignment == b.alignment && a.elideMode == b.elideMode &&
            a.direction == b.direction && a.isWrapped == b.isWrapped && a.mnemonic == b.mnemonic &&
-           a.text == b.text && a.font == b.font;
+           a.pixelSize == b.pixelSize && a.text == b.text && a.font == b.font;
 }
 
 uint qHash(const ParagraphSetting &setting, uint seed)
@@ -165,8 +166,9 @@ constexpr int charactersPerCost = 32;
 
 } // namespace
 
-std::shared_ptr<const Paragraph> Paragraph::of(const ParagraphSetting &setting)
+std::shared_ptr<const Paragraph> Paragraph::of(ParagraphSetting setting)
 {
+    setting.pixelSize = QFontInfo(setting.font).pixelSize();
     return keptText<Paragraph, keptTextsCost>(setting, 1 + setting.text.size() / charactersPerCost);
 }
 

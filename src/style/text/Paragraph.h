@@ -28,6 +28,9 @@ struct ParagraphSetting
     Qt::LayoutDirection direction = Qt::LeftToRight;
     bool isWrapped = false;
     Mnemonic mnemonic = Mnemonic::None;
+    /// The size of the font's letters in pixels. It also depends on the resolution that the font is
+    /// meant for, which fonts do not compare. Paragraph::of() fills it in.
+    int pixelSize = 0;
 };
 
 bool operator==(const ParagraphSetting &a, const ParagraphSetting &b);
@@ -39,13 +42,13 @@ uint qHash(const ParagraphSetting &setting, uint seed = 0);
 ///
 /// Finding the glyphs of a text takes several times longer than drawing them, so texts are kept
 /// from one painting to the next; the ones that were not drawn for the longest time are dropped
-/// first. Neither the colour nor the resolution is kept: a text is drawn with the painter's pen
-/// and under its transformation, whatever they are.
+/// first. The colour is not kept: a text is drawn with the painter's pen and under its
+/// transformation, whatever they are.
 class MOX_COMMON_THEME_EXPORT Paragraph
 {
 public:
     /// Returns the text laid out so; a kept one if there is one. To be called on the GUI thread.
-    static std::shared_ptr<const Paragraph> of(const ParagraphSetting &setting);
+    static std::shared_ptr<const Paragraph> of(ParagraphSetting setting);
 
     explicit Paragraph(const ParagraphSetting &setting);
     ~Paragraph();

@@ -54,6 +54,19 @@ class ItemTextTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void fontOfAnotherResolutionIsNotTakenForTheSame()
+    {
+        QImage dense(10, 10, QImage::Format_RGB32);
+        dense.setDotsPerMeterX(4 * dense.dotsPerMeterX());
+        dense.setDotsPerMeterY(4 * dense.dotsPerMeterY());
+        ParagraphSetting setting = settingOf(text("Resolution"));
+        const qreal height = Paragraph::of(setting)->ink().height();
+        const QFont font = setting.font;
+        setting.font = QFont(font, &dense);
+        QCOMPARE(setting.font, font);
+        QVERIFY(Paragraph::of(setting)->ink().height() > 2 * height);
+    }
+
     void mnemonics_data()
     {
         QTest::addColumn<QString>("string");
