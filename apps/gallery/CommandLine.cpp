@@ -1,6 +1,6 @@
 #include "CommandLine.h"
 
-#include "pages/Literals.h"
+#include "samples/Literals.h"
 
 #include <QtCore/QVector>
 

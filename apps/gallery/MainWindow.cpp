@@ -3,9 +3,9 @@
 #include "PageList.h"
 #include "ThemeMenu.h"
 #include "Themes.h"
-#include "pages/Literals.h"
 #include "pages/PageTable.h"
-#include "pages/Symbols.h"
+#include "samples/Literals.h"
+#include "samples/Symbols.h"
 
 #include <theme/ThemeQApplication.h>
 

@@ -1,8 +1,8 @@
 #include "PageList.h"
 
-#include "pages/Literals.h"
 #include "pages/PageTable.h"
-#include "pages/Symbols.h"
+#include "samples/Literals.h"
+#include "samples/Symbols.h"
 
 #include <QtCore/QEvent>
 #include <QtWidgets/QLineEdit>

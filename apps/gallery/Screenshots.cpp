@@ -2,8 +2,8 @@
 
 #include "MainWindow.h"
 #include "Settling.h"
-#include "pages/Literals.h"
 #include "pages/PageTable.h"
+#include "samples/Literals.h"
 
 #include <QtCore/QDir>
 #include <QtGui/QImageWriter>

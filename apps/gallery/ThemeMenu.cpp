@@ -1,6 +1,6 @@
 #include "ThemeMenu.h"
 
-#include "pages/Literals.h"
+#include "samples/Literals.h"
 
 #include <theme/ThemeFactory.h>
 

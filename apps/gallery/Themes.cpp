@@ -1,6 +1,6 @@
 #include "Themes.h"
 
-#include "pages/Literals.h"
+#include "samples/Literals.h"
 
 #include <theme/BaseThemeSettings.h>
 #include <theme/ThemeFactory.h>

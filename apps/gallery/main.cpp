@@ -3,7 +3,7 @@
 #include "MainWindow.h"
 #include "Screenshots.h"
 #include "Themes.h"
-#include "pages/Literals.h"
+#include "samples/Literals.h"
 
 #include <theme/ThemeQApplication.h>
 

@@ -1,6 +1,6 @@
 #include "components/CardWidget.h"
 
-#include "pages/Literals.h"
+#include "samples/Literals.h"
 
 #include <QtCore/QVariant>
 #include <QtGui/QPainter>

@@ -1,4 +1,4 @@
-#include "Arrangement.h"
+#include "pages/Arrangement.h"
 
 #include <QtWidgets/QFormLayout>
 #include <QtWidgets/QHBoxLayout>

@@ -1,8 +1,8 @@
-#include "Arrangement.h"
-#include "Literals.h"
-#include "Pages.h"
-#include "SamplePage.h"
-#include "Symbols.h"
+#include "pages/Arrangement.h"
+#include "pages/Pages.h"
+#include "pages/SamplePage.h"
+#include "samples/Literals.h"
+#include "samples/Symbols.h"
 
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QGroupBox>

@@ -1,12 +1,12 @@
-#include "Arrangement.h"
-#include "Literals.h"
-#include "Pages.h"
-#include "SamplePage.h"
-#include "SamplePictures.h"
 #include "components/ButtonGroupWidget.h"
 #include "components/CardWidget.h"
 #include "components/MinimizedScrollBar.h"
 #include "components/RangeSlider.h"
+#include "pages/Arrangement.h"
+#include "pages/Pages.h"
+#include "pages/SamplePage.h"
+#include "samples/Literals.h"
+#include "samples/SamplePictures.h"
 
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QDialogButtonBox>

@@ -1,5 +1,5 @@
-#include "Literals.h"
-#include "Pages.h"
+#include "pages/Pages.h"
+#include "samples/Literals.h"
 
 #include <resources/ThemeResources.h>
 

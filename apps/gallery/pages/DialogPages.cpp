@@ -1,7 +1,7 @@
-#include "EmbeddedDialog.h"
-#include "Literals.h"
-#include "Pages.h"
-#include "SamplePage.h"
+#include "pages/EmbeddedDialog.h"
+#include "pages/Pages.h"
+#include "pages/SamplePage.h"
+#include "samples/Literals.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDir>

@@ -1,4 +1,4 @@
-#include "EmbeddedDialog.h"
+#include "pages/EmbeddedDialog.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtGui/QFocusEvent>

@@ -1,6 +1,6 @@
-#include "IconModel.h"
+#include "pages/IconModel.h"
 
-#include "Literals.h"
+#include "samples/Literals.h"
 
 #include <resources/ThemeColorHelper.h>
 #include <resources/ThemeResources.h>

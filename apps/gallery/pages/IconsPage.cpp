@@ -1,7 +1,7 @@
-#include "Arrangement.h"
-#include "IconModel.h"
-#include "Literals.h"
-#include "Pages.h"
+#include "pages/Arrangement.h"
+#include "pages/IconModel.h"
+#include "pages/Pages.h"
+#include "samples/Literals.h"
 
 #include <resources/ThemeResources.h>
 

@@ -1,9 +1,9 @@
-#include "Arrangement.h"
-#include "Literals.h"
-#include "Pages.h"
-#include "SampleModels.h"
-#include "SamplePage.h"
-#include "Symbols.h"
+#include "pages/Arrangement.h"
+#include "pages/Pages.h"
+#include "pages/SamplePage.h"
+#include "samples/Literals.h"
+#include "samples/SampleModels.h"
+#include "samples/Symbols.h"
 
 #include <QtGui/QStandardItemModel>
 #include <QtWidgets/QColumnView>

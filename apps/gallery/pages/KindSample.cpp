@@ -1,6 +1,6 @@
-#include "KindSample.h"
+#include "pages/KindSample.h"
 
-#include "Literals.h"
+#include "samples/Literals.h"
 
 #include <catalogue/Words.h>
 #include <common_utils/Helpers.h>

@@ -1,7 +1,7 @@
-#include "Arrangement.h"
-#include "KindSample.h"
-#include "Literals.h"
-#include "Pages.h"
+#include "pages/Arrangement.h"
+#include "pages/KindSample.h"
+#include "pages/Pages.h"
+#include "samples/Literals.h"
 
 #include <catalogue/Catalogue.h>
 #include <catalogue/Words.h>

@@ -1,7 +1,7 @@
-#include "PageTable.h"
+#include "pages/PageTable.h"
 
-#include "Pages.h"
-#include "StatesPage.h"
+#include "pages/Pages.h"
+#include "pages/StatesPage.h"
 #include "states/ElementSample.h"
 
 namespace TARN::Gallery {

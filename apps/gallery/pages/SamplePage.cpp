@@ -1,7 +1,7 @@
-#include "SamplePage.h"
+#include "pages/SamplePage.h"
 
-#include "Arrangement.h"
-#include "Literals.h"
+#include "pages/Arrangement.h"
+#include "samples/Literals.h"
 
 #include <QtWidgets/QGridLayout>
 #include <QtWidgets/QLabel>

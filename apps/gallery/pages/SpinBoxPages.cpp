@@ -1,7 +1,7 @@
-#include "Arrangement.h"
-#include "Literals.h"
-#include "Pages.h"
-#include "SamplePage.h"
+#include "pages/Arrangement.h"
+#include "pages/Pages.h"
+#include "pages/SamplePage.h"
+#include "samples/Literals.h"
 
 #include <QtWidgets/QCalendarWidget>
 #include <QtWidgets/QDateTimeEdit>

@@ -1,7 +1,7 @@
-#include "StatesPage.h"
+#include "pages/StatesPage.h"
 
-#include "Arrangement.h"
-#include "Literals.h"
+#include "pages/Arrangement.h"
+#include "samples/Literals.h"
 #include "states/ElementSubject.h"
 
 #include <style/BaseStyle.h>

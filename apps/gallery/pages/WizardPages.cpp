@@ -1,9 +1,9 @@
-#include "Arrangement.h"
-#include "EmbeddedDialog.h"
-#include "Literals.h"
-#include "Pages.h"
-#include "SamplePage.h"
-#include "SamplePictures.h"
+#include "pages/Arrangement.h"
+#include "pages/EmbeddedDialog.h"
+#include "pages/Pages.h"
+#include "pages/SamplePage.h"
+#include "samples/Literals.h"
+#include "samples/SamplePictures.h"
 
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QLineEdit>

@@ -1,5 +1,5 @@
 #include "components/ButtonGroupWidget.h"
-#include "pages/Symbols.h"
+#include "samples/Symbols.h"
 #include "states/Families.h"
 #include "states/SampleMaking.h"
 

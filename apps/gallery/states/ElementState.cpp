@@ -1,6 +1,6 @@
 #include "states/ElementState.h"
 
-#include "pages/Literals.h"
+#include "samples/Literals.h"
 
 #include <QtCore/QStringList>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "pages/Literals.h"
+#include "samples/Literals.h"
 #include "states/ElementSample.h"
 
 #include <QtWidgets/QWidget>

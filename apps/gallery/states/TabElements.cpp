@@ -1,4 +1,4 @@
-#include "pages/Symbols.h"
+#include "samples/Symbols.h"
 #include "states/Families.h"
 #include "states/SampleMaking.h"
 

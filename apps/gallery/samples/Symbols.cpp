@@ -1,6 +1,6 @@
-#include "Symbols.h"
+#include "samples/Symbols.h"
 
-#include "Literals.h"
+#include "samples/Literals.h"
 
 #include <resources/ThemeResources.h>
 

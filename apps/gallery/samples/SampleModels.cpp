@@ -1,8 +1,8 @@
-#include "SampleModels.h"
+#include "samples/SampleModels.h"
 
-#include "Literals.h"
-#include "SamplePictures.h"
-#include "Symbols.h"
+#include "samples/Literals.h"
+#include "samples/SamplePictures.h"
+#include "samples/Symbols.h"
 
 #include <QtGui/QStandardItemModel>
 
