@@ -20,6 +20,7 @@ foreach(header IN ITEMS
     readers/SolidBrushReader.h
     readers/ThemeConfigurationReader.h
     readers/ThemeFont.h
+    resources/LookUpObserver.h
     resources/ThemeColorHelper.h
     resources/ThemeResources.h
     style/BaseStyle.h

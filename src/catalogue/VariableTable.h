@@ -1,6 +1,6 @@
 #pragma once
 
-#include "resources/variables/LookUpObserver.h"
+#include "resources/variables/LookUps.h"
 
 #include <QtCore/QCoreApplication>
 

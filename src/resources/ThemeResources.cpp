@@ -1,7 +1,7 @@
 #include "resources/ThemeResources.h"
 
 #include "resources/kept/ProcessCache.h"
-#include "resources/variables/LookUpObserver.h"
+#include "resources/variables/LookUps.h"
 #include "resources/variables/VariableGroup.h"
 #include "resources/variables/VariableKeyIndex.h"
 #include "resources/variables/VariablePath.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <resources/variables/LookUpObserver.h>
+#include <resources/LookUpObserver.h>
 
 #include <QtCore/QSet>
 #include <QtCore/QString>

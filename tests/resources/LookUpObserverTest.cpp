@@ -1,5 +1,5 @@
+#include <resources/LookUpObserver.h>
 #include <resources/ThemeResources.h>
-#include <resources/variables/LookUpObserver.h>
 
 #include <QtTest/QtTest>
 

@@ -1,7 +1,7 @@
 #include "resources/variables/StyleSheetSubstitution.h"
 
 #include "resources/ThemeResources.h"
-#include "resources/variables/LookUpObserver.h"
+#include "resources/variables/LookUps.h"
 #include "resources/variables/VariablePath.h"
 
 namespace TARN {

@@ -14,14 +14,9 @@ using LookUpObserver = void (*)(const QString &group, const QString &name);
 /// whether or not there is such a variable. Null ends it. Returns the former observer. To be called
 /// on the GUI thread.
 ///
-/// It is the getters of ThemeResources and the placeholders of stylesheets that are observed. What
-/// the style keeps for the life of the process is looked up once only.
+/// For tools that show which variables an application uses. It is the getters of ThemeResources and
+/// the placeholders of stylesheets that are observed. What the style keeps for the life of the
+/// process is looked up once only.
 MOX_COMMON_THEME_EXPORT LookUpObserver observeLookUps(LookUpObserver observer);
-
-/// Who is told; null for nobody, so that a look-up that nobody observes costs a comparison more.
-extern LookUpObserver lookUpObserver;
-
-/// Tells the observer, if there is one, that the variable at \a path was looked up.
-void tellLookUp(const QString &path);
 
 } // namespace TARN

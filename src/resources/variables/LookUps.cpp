@@ -1,15 +1,8 @@
-#include "resources/variables/LookUpObserver.h"
-
-#include <utility>
+#include "resources/variables/LookUps.h"
 
 namespace TARN {
 
-LookUpObserver lookUpObserver = nullptr;
-
-LookUpObserver observeLookUps(LookUpObserver observer)
-{
-    return std::exchange(lookUpObserver, observer);
-}
+void (*lookUpObserver)(const QString &group, const QString &name) = nullptr;
 
 void tellLookUp(const QString &path)
 {
