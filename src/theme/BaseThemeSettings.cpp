@@ -2,6 +2,8 @@
 
 #include "readers/xml/XmlFile.h"
 
+#include <QtXml/QDomDocument>
+
 namespace TARN {
 
 namespace {
@@ -10,15 +12,16 @@ const QString ThemeNameTag = QStringLiteral("name");
 } // namespace
 
 BaseThemeSettings::BaseThemeSettings(const QString &path)
-    : m_status(readXmlFile(path, m_document))
 {
+    QDomDocument document;
+    m_status = readXmlFile(path, document);
     // A truncated file still names its theme when the name stands before the break.
-    m_root = m_document.firstChildElement(ThemeRootTag);
+    m_name = document.firstChildElement(ThemeRootTag).firstChildElement(ThemeNameTag).text();
 }
 
 QString BaseThemeSettings::getName() const
 {
-    return m_root.firstChildElement(ThemeNameTag).text();
+    return m_name;
 }
 
 int BaseThemeSettings::getStatus() const

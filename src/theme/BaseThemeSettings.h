@@ -3,8 +3,6 @@
 #include <mox_common_theme_export.h>
 
 #include <QtCore/QString>
-#include <QtXml/QDomDocument>
-#include <QtXml/QDomElement>
 
 namespace TARN {
 
@@ -23,9 +21,8 @@ public:
     int getStatus() const;
 
 private:
-    QDomDocument m_document;
-    QDomElement m_root;
-    int m_status;
+    QString m_name;
+    int m_status = 0;
 };
 
 } // namespace TARN
