@@ -1,12 +1,12 @@
 #include "style/families/Frames.h"
 
 #include "catalogue/Names.h"
-#include "common_utils/DashedOutline.h"
 #include "resources/ThemeResources.h"
 #include "resources/kept/ProcessCache.h"
 #include "style/asking/OptionState.h"
 #include "style/asking/Properties.h"
 #include "style/brushes/KeptBrushes.h"
+#include "style/drawing/DashedOutline.h"
 #include "style/drawing/Lines.h"
 #include "style/drawing/Palettes.h"
 #include "style/drawing/Shapes.h"

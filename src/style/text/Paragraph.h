@@ -2,8 +2,6 @@
 
 #include "style/text/Mnemonic.h"
 
-#include <mox_common_theme_export.h>
-
 #include <QtCore/QPoint>
 #include <QtCore/QRectF>
 #include <QtCore/QSize>
@@ -44,7 +42,7 @@ uint qHash(const ParagraphSetting &setting, uint seed = 0);
 /// from one painting to the next; the ones that were not drawn for the longest time are dropped
 /// first. The colour is not kept: a text is drawn with the painter's pen and under its
 /// transformation, whatever they are.
-class MOX_COMMON_THEME_EXPORT Paragraph
+class Paragraph
 {
 public:
     /// Returns the text laid out so; a kept one if there is one. To be called on the GUI thread.

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <mox_common_utils_export.h>
-
 class QBrush;
 class QPainter;
 class QRect;
@@ -14,7 +12,6 @@ namespace TARN {
 /// Where the result is the same it is drawn from kept pictures, which takes a twentieth of the
 /// time: the painter draws a plain colour without rotation into a picture, and the corner of the
 /// rectangle lies on a whole pixel of the device.
-MOX_COMMON_UTILS_EXPORT void drawDashedOutline(const QRect &rect, const QBrush &brush,
-                                               QPainter &painter);
+void drawDashedOutline(const QRect &rect, const QBrush &brush, QPainter &painter);
 
 } // namespace TARN

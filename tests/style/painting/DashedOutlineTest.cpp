@@ -1,4 +1,4 @@
-#include <common_utils/DashedOutline.h>
+#include <style/drawing/DashedOutline.h>
 
 #include <QtGui/QPainter>
 #include <QtTest/QtTest>
