@@ -1,7 +1,6 @@
 #include "catalogue/Catalogue.h"
 
 #include "catalogue/Words.h"
-#include "resources/ThemeResources.h"
 
 #include <QtCore/QHash>
 #include <QtCore/QPair>
@@ -12,6 +11,10 @@ namespace {
 
 constexpr bool Twin = true;
 constexpr bool NoTwin = false;
+
+// As ThemeResources names the groups, which is no part of this library.
+constexpr QLatin1String colorGroup = Words::word("colors");
+constexpr QLatin1String brushGroup = Words::word("brushes");
 
 QStringList wordsOf(const char *text)
 {
@@ -29,9 +32,9 @@ QVector<Variable> namedVariables()
     };
 #define MOX_FAMILY(heading) family = QStringLiteral(heading);
 #define MOX_BRUSH(name, twin, role, surfaces, meaning)                                             \
-    add(ThemeResources::getBrushesVarPrefix(), #name, twin, VariableRole::role, surfaces, meaning);
+    add(brushGroup, #name, twin, VariableRole::role, surfaces, meaning);
 #define MOX_COLOR(name, twin, role, surfaces, meaning)                                             \
-    add(ThemeResources::getColorsVarPrefix(), #name, twin, VariableRole::role, surfaces, meaning);
+    add(colorGroup, #name, twin, VariableRole::role, surfaces, meaning);
 #define MOX_VALUE(group, name, meaning)                                                            \
     add(QStringLiteral(#group), #name, NoTwin, VariableRole::Value, "", meaning);
 #include "catalogue/Variables.def"
@@ -88,7 +91,7 @@ void appendKind(QVector<Variable> &variables, const QString &family, bool isInpu
             const VariableRole role = fieldRole(field, isInput);
             const bool needsFace = role == VariableRole::Text || role == VariableRole::Outline;
             variables.append(
-                {ThemeResources::getBrushesVarPrefix(), compose(state, field), Twin, role,
+                {brushGroup, compose(state, field), Twin, role,
                  fieldMeaning(field) + QLatin1String(": ") + stateMeaning(state) + QLatin1Char('.'),
                  needsFace ? QStringList{face} : QStringList(), family});
         }

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <mox_common_theme_export.h>
-
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 #include <QtCore/QVector>
@@ -50,23 +48,23 @@ inline constexpr double graphicContrast = 3; ///< of graphics and outlines
 /// \}
 
 /// Returns the contrast that a variable of \a role needs on its surfaces; 0 when it needs none.
-MOX_COMMON_THEME_EXPORT double neededContrast(VariableRole role);
+double neededContrast(VariableRole role);
 
 /// Returns all variables, those of a family one after the other.
-MOX_COMMON_THEME_EXPORT const QVector<Variable> &variables();
+const QVector<Variable> &variables();
 
 /// Returns the variable \a name of \a group; null when there is none.
-MOX_COMMON_THEME_EXPORT const Variable *find(const QString &group, const QString &name);
+const Variable *find(const QString &group, const QString &name);
 
 /// Returns the roles of the palette that are seen as text.
-MOX_COMMON_THEME_EXPORT const QVector<PaletteText> &paletteTexts();
+const QVector<PaletteText> &paletteTexts();
 
 /// Returns the kinds of buttons and inputs that a theme has to define; the plain kind is an empty
 /// word. Applications may ask for further ones.
-MOX_COMMON_THEME_EXPORT QStringList kinds();
+QStringList kinds();
 
 /// Returns the words for the states of buttons and inputs: "Unchecked", "UncheckedHover" ...
-MOX_COMMON_THEME_EXPORT QStringList states();
+QStringList states();
 
 } // namespace Catalogue
 

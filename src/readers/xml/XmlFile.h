@@ -1,7 +1,5 @@
 #pragma once
 
-#include <mox_common_theme_export.h>
-
 #include <QtCore/QString>
 
 class QDomDocument;
@@ -37,7 +35,6 @@ struct XmlSource
 };
 
 /// The same as without \a source, which is filled with what is known of the file.
-MOX_COMMON_THEME_EXPORT int readXmlFile(const QString &path, QDomDocument &document,
-                                        XmlSource &source);
+int readXmlFile(const QString &path, QDomDocument &document, XmlSource &source);
 
 } // namespace TARN

@@ -6,11 +6,6 @@
 
 namespace TARN {
 
-QRegularExpression placeholderPattern()
-{
-    return QRegularExpression(QStringLiteral("(@)([\\w%1]+)(@)").arg(QLatin1Char('/')));
-}
-
 QString ThemeResources::customizeStyleSheet(const QString &styleSheet)
 {
     const QVariantMap variables = publishedVariables(getThemeVariablePropertyName());

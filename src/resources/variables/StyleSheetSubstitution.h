@@ -1,12 +1,14 @@
 #pragma once
 
-#include <mox_common_theme_export.h>
-
 #include <QtCore/QRegularExpression>
+#include <QtCore/QString>
 
 namespace TARN {
 
 /// Matches the placeholders of stylesheets; the second group captures the path of the variable.
-MOX_COMMON_THEME_EXPORT QRegularExpression placeholderPattern();
+inline QRegularExpression placeholderPattern()
+{
+    return QRegularExpression(QStringLiteral("(@)([\\w%1]+)(@)").arg(QLatin1Char('/')));
+}
 
 } // namespace TARN

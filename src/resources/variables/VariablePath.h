@@ -1,7 +1,5 @@
 #pragma once
 
-#include <mox_common_theme_export.h>
-
 #include <QtCore/QString>
 #include <QtCore/QVariant>
 
@@ -9,9 +7,8 @@ namespace TARN {
 
 /// Returns the value at \a path in \a map, whose nested maps are entered part by part, or
 /// \a defaultValue when there is none. Parts that lead beyond a value are ignored.
-MOX_COMMON_THEME_EXPORT QVariant getThemeVarInternal(const QMap<QString, QVariant> &map,
-                                                     const QString &path,
-                                                     const QVariant &defaultValue);
+QVariant getThemeVarInternal(const QMap<QString, QVariant> &map, const QString &path,
+                             const QVariant &defaultValue);
 
 /// Returns the application's variable map in the property \a propertyName; empty when there is no
 /// application object or nothing has been published.
