@@ -147,7 +147,7 @@ void BaseStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *opti
     if (!option || !painter) {
         return;
     }
-    const PaintRule rule = paintRule(paintedPrimitives(), element);
+    const PaintRule rule = paintRule(element);
     if (!rule || !paint(rule, {*this, option, painter, widget})) {
         QProxyStyle::drawPrimitive(element, option, painter, widget);
     }
@@ -159,7 +159,7 @@ void BaseStyle::drawControl(ControlElement element, const QStyleOption *option, 
     if (!option || !painter) {
         return;
     }
-    const PaintRule rule = paintRule(paintedControls(), element);
+    const PaintRule rule = paintRule(element);
     if (!rule || !paint(rule, {*this, option, painter, widget})) {
         QProxyStyle::drawControl(element, option, painter, widget);
     }
@@ -171,7 +171,7 @@ void BaseStyle::drawComplexControl(ComplexControl control, const QStyleOptionCom
     if (!option || !painter) {
         return;
     }
-    const PaintRule rule = paintRule(paintedComplexControls(), control);
+    const PaintRule rule = paintRule(control);
     if (!rule || !paint(rule, {*this, option, painter, widget})) {
         QProxyStyle::drawComplexControl(control, option, painter, widget);
     }

@@ -4,17 +4,17 @@
 
 namespace TARN::Gallery {
 
-const QVector<PaintedElement> &rowsOf(ElementTable table)
+const QVector<StyleElement> &rowsOf(ElementTable table)
 {
     switch (table) {
     case ElementTable::Primitives:
-        return paintedPrimitives();
+        return Catalogue::primitives();
     case ElementTable::Controls:
-        return paintedControls();
+        return Catalogue::controls();
     case ElementTable::ComplexControls:
         break;
     }
-    return paintedComplexControls();
+    return Catalogue::complexControls();
 }
 
 QString elementName(const ElementId &id)

@@ -2,7 +2,7 @@
 
 #include "states/ElementState.h"
 
-#include <style/tables/Painting.h>
+#include <catalogue/Elements.h>
 
 #include <QtCore/QSize>
 #include <QtWidgets/QStyleOption>
@@ -40,7 +40,7 @@ struct ElementId
 };
 
 /// Returns the rows of \a table.
-const QVector<PaintedElement> &rowsOf(ElementTable table);
+const QVector<StyleElement> &rowsOf(ElementTable table);
 
 /// Returns the element's name as the toolkit spells it.
 QString elementName(const ElementId &id);

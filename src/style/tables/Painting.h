@@ -2,10 +2,6 @@
 
 #include "style/asking/Requests.h"
 
-#include <mox_common_theme_export.h>
-
-#include <QtCore/QVector>
-
 /// What the style paints itself, and what it leaves to its base style.
 namespace TARN {
 
@@ -16,25 +12,12 @@ namespace TARN {
 /// anything else brackets that with save() and restore().
 using PaintRule = bool (*)(const PaintRequest &request);
 
-struct PaintedElement
-{
-    int element;      ///< of the enumeration that the table is for
-    const char *name; ///< as the toolkit spells it
-    PaintRule paint;  ///< null when the element is left to the base style
-};
-
-/// \name The tables, in which every element that the toolkit knows stands at its own index
+/// \name The rule for an element; null when the base style paints it
 /// \{
-MOX_COMMON_THEME_EXPORT const QVector<PaintedElement> &paintedPrimitives();
-MOX_COMMON_THEME_EXPORT const QVector<PaintedElement> &paintedControls();
-MOX_COMMON_THEME_EXPORT const QVector<PaintedElement> &paintedComplexControls();
+PaintRule paintRule(QStyle::PrimitiveElement element);
+PaintRule paintRule(QStyle::ControlElement element);
+PaintRule paintRule(QStyle::ComplexControl control);
 /// \}
-
-/// Returns the rule for \a element in one of the tables; null when the base style paints it.
-inline PaintRule paintRule(const QVector<PaintedElement> &table, int element)
-{
-    return element >= 0 && element < table.size() ? table[element].paint : nullptr;
-}
 
 /// Paints by \a rule and puts the painter's pen, brush and render hints back.
 bool paint(PaintRule rule, const PaintRequest &request);

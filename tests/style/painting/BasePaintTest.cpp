@@ -1,5 +1,5 @@
+#include <catalogue/Elements.h>
 #include <style/BaseStyle.h>
-#include <style/tables/Painting.h>
 
 #include <QtGui/QPainter>
 #include <QtTest/QtTest>
@@ -105,9 +105,9 @@ void BasePaintTest::otherElementsReachTheBaseStyle_data()
 {
     QTest::addColumn<char>("kind");
     QTest::addColumn<int>("element");
-    const auto addUnpainted = [](char kind, const QVector<TARN::PaintedElement> &table) {
-        for (const TARN::PaintedElement &row : table) {
-            if (!row.paint) {
+    const auto addUnpainted = [](char kind, const QVector<TARN::StyleElement> &table) {
+        for (const TARN::StyleElement &row : table) {
+            if (!row.isPainted) {
                 QTest::newRow(row.name) << kind << row.element;
             }
         }
@@ -115,9 +115,9 @@ void BasePaintTest::otherElementsReachTheBaseStyle_data()
             QTest::addRow("%c %d", kind, beyond) << kind << beyond;
         }
     };
-    addUnpainted('p', TARN::paintedPrimitives());
-    addUnpainted('c', TARN::paintedControls());
-    addUnpainted('x', TARN::paintedComplexControls());
+    addUnpainted('p', TARN::Catalogue::primitives());
+    addUnpainted('c', TARN::Catalogue::controls());
+    addUnpainted('x', TARN::Catalogue::complexControls());
     QTest::newRow("branch") << 'p' << int(QStyle::PE_IndicatorBranch);
     QTest::newRow("49") << 'p' << 49;
     QTest::newRow("group box") << 'x' << int(QStyle::CC_GroupBox);

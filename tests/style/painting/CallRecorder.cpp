@@ -1,6 +1,6 @@
 #include "style/painting/CallRecorder.h"
 
-#include <style/tables/Painting.h>
+#include <catalogue/Elements.h>
 
 #include <QtGui/QPainter>
 
@@ -81,7 +81,7 @@ bool CallRecorder::keep(const char *element, const QStyleOption *option) const
 void CallRecorder::drawPrimitive(PrimitiveElement element, const QStyleOption *option,
                                  QPainter *painter, const QWidget *widget) const
 {
-    if (keep(TARN::paintedPrimitives().at(element).name, option)) {
+    if (keep(TARN::Catalogue::primitives().at(element).name, option)) {
         QProxyStyle::drawPrimitive(element, option, painter, widget);
     }
 }
@@ -89,7 +89,7 @@ void CallRecorder::drawPrimitive(PrimitiveElement element, const QStyleOption *o
 void CallRecorder::drawControl(ControlElement element, const QStyleOption *option,
                                QPainter *painter, const QWidget *widget) const
 {
-    if (keep(TARN::paintedControls().at(element).name, option)) {
+    if (keep(TARN::Catalogue::controls().at(element).name, option)) {
         QProxyStyle::drawControl(element, option, painter, widget);
     }
 }
@@ -97,7 +97,7 @@ void CallRecorder::drawControl(ControlElement element, const QStyleOption *optio
 void CallRecorder::drawComplexControl(ComplexControl control, const QStyleOptionComplex *option,
                                       QPainter *painter, const QWidget *widget) const
 {
-    if (keep(TARN::paintedComplexControls().at(control).name, option)) {
+    if (keep(TARN::Catalogue::complexControls().at(control).name, option)) {
         QProxyStyle::drawComplexControl(control, option, painter, widget);
     }
 }

@@ -1,5 +1,4 @@
 #include <style/BaseStyle.h>
-#include <style/tables/Painting.h>
 
 #include <QtCore/QRegularExpression>
 #include <QtCore/QSet>
@@ -31,7 +30,7 @@ QSet<QString> namesOfElements()
 {
     QSet<QString> names;
     for (const ElementTable table : tables) {
-        for (const TARN::PaintedElement &row : rowsOf(table)) {
+        for (const TARN::StyleElement &row : rowsOf(table)) {
             names.insert(text(row.name));
         }
     }

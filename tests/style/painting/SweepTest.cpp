@@ -81,7 +81,7 @@ constexpr const char *drawnIntoPictures[] = {
 
 bool isLeftToBaseStyle(const ElementId &id)
 {
-    return !rowsOf(id.table).at(id.element).paint;
+    return !rowsOf(id.table).at(id.element).isPainted;
 }
 
 /// Returns what painting the element may change, unless the style paints it itself.
@@ -198,7 +198,7 @@ void ElementSweep::paint(const QStyleOption &option, const QWidget *widget)
 void addElements(ElementTable table)
 {
     QTest::addColumn<int>("element");
-    for (const TARN::PaintedElement &row : rowsOf(table)) {
+    for (const TARN::StyleElement &row : rowsOf(table)) {
         QTest::newRow(row.name) << row.element;
     }
 }
@@ -290,7 +290,7 @@ void SweepTest::nothingIsPaintedWithoutOptionOrPainter()
     const QStyleOptionComplex option;
     for (const auto table :
          {ElementTable::Primitives, ElementTable::Controls, ElementTable::ComplexControls}) {
-        for (const TARN::PaintedElement &row : rowsOf(table)) {
+        for (const TARN::StyleElement &row : rowsOf(table)) {
             switch (table) {
             case ElementTable::Primitives:
                 style.drawPrimitive(QStyle::PrimitiveElement(row.element), nullptr, &painter);
