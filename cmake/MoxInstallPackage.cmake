@@ -11,7 +11,7 @@ install(
 set(MOX_INSTALL_INCLUDEDIR "${CMAKE_INSTALL_INCLUDEDIR}/mox_common_theme")
 
 # Headers lie beside their sources; these are the public ones.
-foreach(header IN ITEMS
+set(MOX_PUBLIC_HEADERS
     common_utils/Contrast.h
     common_utils/Helpers.h
     readers/BrushReader.h
@@ -32,6 +32,7 @@ foreach(header IN ITEMS
     theme/Theme.h
     theme/ThemeFactory.h
     theme/ThemeQApplication.h)
+foreach(header IN LISTS MOX_PUBLIC_HEADERS)
   get_filename_component(folder "${header}" DIRECTORY)
   install(FILES "${PROJECT_SOURCE_DIR}/src/${header}"
           DESTINATION "${MOX_INSTALL_INCLUDEDIR}/${folder}")
