@@ -1,6 +1,7 @@
-// The command that writes the theme author's reference from the catalogue of variables.
+// The command that writes the references of variables and properties from the catalogue.
 
-#include "Reference.h"
+#include "PropertyReference.h"
+#include "VariableReference.h"
 
 #include <QtCore/QFile>
 #include <QtCore/QSaveFile>
@@ -9,25 +10,37 @@
 
 namespace {
 
-int fail(const QString &message)
+struct Page
+{
+    const char *file; ///< in tools/reference what is filled in, in docs what comes of it
+    QString (*make)(const QString &page);
+};
+
+constexpr Page pages[] = {
+    {"theme-variables.md", TARN::Reference::makeVariableReference},
+    {"widget-properties.md", TARN::Reference::makePropertyReference},
+};
+
+bool fail(const QString &message)
 {
     std::fprintf(stderr, "mox-theme-reference: %s\n", qPrintable(message));
-    return 1;
+    return false;
 }
 
-int writeReference(const QString &root)
+bool writePage(const QString &root, const Page &page)
 {
-    QFile introduction(root + QStringLiteral("/tools/reference/introduction.md"));
-    if (!introduction.open(QIODevice::ReadOnly)) {
-        return fail(QStringLiteral("can't read ") + introduction.fileName());
+    const QString file = QString::fromLatin1(page.file);
+    QFile source(root + QStringLiteral("/tools/reference/") + file);
+    if (!source.open(QIODevice::ReadOnly)) {
+        return fail(QStringLiteral("can't read ") + source.fileName());
     }
-    QSaveFile reference(root + QStringLiteral("/docs/theme-variables.md"));
-    const QString text = TARN::Reference::makeReference(QString::fromUtf8(introduction.readAll()));
+    QSaveFile reference(root + QStringLiteral("/docs/") + file);
+    const QString text = page.make(QString::fromUtf8(source.readAll()));
     if (!reference.open(QIODevice::WriteOnly) || reference.write(text.toUtf8()) < 0 ||
         !reference.commit()) {
         return fail(QStringLiteral("can't write ") + reference.fileName());
     }
-    return 0;
+    return true;
 }
 
 } // namespace
@@ -35,10 +48,16 @@ int writeReference(const QString &root)
 int main(int argc, char **argv)
 {
     if (argc != 2) {
-        std::fputs("usage: mox-theme-reference ROOT\n"
-                   "           writes docs/theme-variables.md of the checkout ROOT\n",
-                   stderr);
+        std::fputs(
+            "usage: mox-theme-reference ROOT\n"
+            "           writes docs/theme-variables.md and docs/widget-properties.md of the\n"
+            "           checkout ROOT\n",
+            stderr);
         return 2;
     }
-    return writeReference(QString::fromLocal8Bit(argv[1]));
+    bool isWritten = true;
+    for (const Page &page : pages) {
+        isWritten = writePage(QString::fromLocal8Bit(argv[1]), page) && isWritten;
+    }
+    return isWritten ? 0 : 1;
 }

@@ -1,9 +1,10 @@
-#include "Reference.h"
+#include "VariableReference.h"
+
+#include "Markdown.h"
 
 #include <catalogue/Catalogue.h>
 #include <catalogue/Words.h>
 
-#include <QtCore/QMap>
 #include <QtCore/QStringList>
 
 namespace TARN::Reference {
@@ -14,22 +15,6 @@ const QString &brushes()
 {
     static const QString group = QStringLiteral("brushes");
     return group;
-}
-
-QString row(const QStringList &cells)
-{
-    return QStringLiteral("| ") + cells.join(QStringLiteral(" | ")) + QStringLiteral(" |\n");
-}
-
-QString tableHead(const QStringList &titles)
-{
-    return row(titles) + QLatin1Char('|') + QStringLiteral("---|").repeated(titles.size()) +
-           QLatin1Char('\n');
-}
-
-QString code(const QString &text)
-{
-    return QLatin1Char('`') + text + QLatin1Char('`');
 }
 
 QString roleText(VariableRole role)
@@ -203,19 +188,13 @@ QString paletteTexts()
 
 } // namespace
 
-QString makeReference(const QString &introduction)
+QString makeVariableReference(const QString &page)
 {
-    const QMap<QString, QString (*)()> parts{{QStringLiteral("%FAMILIES%"), families},
-                                             {QStringLiteral("%FIELDS%"), fields},
-                                             {QStringLiteral("%KINDS%"), kinds},
-                                             {QStringLiteral("%PALETTE%"), paletteTexts},
-                                             {QStringLiteral("%STATES%"), states}};
-    QString reference;
-    for (const QString &line : introduction.split(QLatin1Char('\n'))) {
-        const auto part = parts.constFind(line);
-        reference += part == parts.constEnd() ? line + QLatin1Char('\n') : (*part)();
-    }
-    return reference.trimmed() + QLatin1Char('\n');
+    return fillIn(page, {{QStringLiteral("%FAMILIES%"), families},
+                         {QStringLiteral("%FIELDS%"), fields},
+                         {QStringLiteral("%KINDS%"), kinds},
+                         {QStringLiteral("%PALETTE%"), paletteTexts},
+                         {QStringLiteral("%STATES%"), states}});
 }
 
 } // namespace TARN::Reference
