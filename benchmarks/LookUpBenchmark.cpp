@@ -3,19 +3,51 @@
 
 #include <resources/ThemeResources.h>
 #include <style/BaseStyle.h>
+#include <style/asking/Classes.h>
+#include <style/asking/Properties.h>
 #include <theme/BaseTheme.h>
 
 #include <QtCore/QFile>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QStyleOption>
+#include <QtWidgets/QTabBar>
 
 #include <benchmark/benchmark.h>
 
 using TARN::BaseStyle;
+using TARN::Property;
 using TARN::ThemeResources;
 
 namespace {
+
+/// What applications derive to handle events.
+class DerivedButton : public QPushButton
+{
+    Q_OBJECT
+};
+
+/// What applications derive to keep values.
+class DeclaringButton : public QPushButton
+{
+    Q_OBJECT
+    Q_PROPERTY(int level MEMBER m_level)
+    Q_PROPERTY(QString unit MEMBER m_unit)
+
+private:
+    int m_level = 0;
+    QString m_unit;
+};
+
+class DynamicButton : public QPushButton
+{
+public:
+    DynamicButton()
+    {
+        TARN::setProperty(*this, Property::ButtonType, QStringLiteral("Danger"));
+        TARN::setProperty(*this, Property::StyleSheetFont, font());
+    }
+};
 
 void applyRealisticTheme()
 {
@@ -102,9 +134,62 @@ void walkForBrushKey(benchmark::State &state)
 }
 BENCHMARK(walkForBrushKey);
 
+/// What painting asks most often, and mostly in vain.
+template <typename Button, Property Asked>
+void isSet(benchmark::State &state)
+{
+    const Button button;
+    const QObject *object = &button;
+    for ([[maybe_unused]] auto iteration : state) {
+        benchmark::DoNotOptimize(object);
+        benchmark::DoNotOptimize(TARN::isSet(object, Asked));
+    }
+}
+BENCHMARK_TEMPLATE(isSet, QPushButton, Property::Outline);
+BENCHMARK_TEMPLATE(isSet, DynamicButton, Property::Outline);
+BENCHMARK_TEMPLATE(isSet, DerivedButton, Property::Outline);
+BENCHMARK_TEMPLATE(isSet, DeclaringButton, Property::Outline);
+BENCHMARK_TEMPLATE(isSet, DynamicButton, Property::ButtonType);
+BENCHMARK_TEMPLATE(isSet, QPushButton, Property::Checkable);
+
+/// What asking the toolkit costs, for comparison.
+void askForProperty(benchmark::State &state)
+{
+    const QPushButton button;
+    for ([[maybe_unused]] auto iteration : state) {
+        benchmark::DoNotOptimize(button.property("outline").toBool());
+    }
+}
+BENCHMARK(askForProperty);
+
+void isA(benchmark::State &state, const char *className)
+{
+    const QPushButton button;
+    const QObject *object = &button;
+    for ([[maybe_unused]] auto iteration : state) {
+        benchmark::DoNotOptimize(object);
+        benchmark::DoNotOptimize(TARN::isA(object, className));
+    }
+}
+BENCHMARK_CAPTURE(isA, it_is, "QPushButton");
+BENCHMARK_CAPTURE(isA, it_is_not, "QTabBar");
+
+void castToTabBar(benchmark::State &state)
+{
+    const QPushButton button;
+    const QObject *object = &button;
+    for ([[maybe_unused]] auto iteration : state) {
+        benchmark::DoNotOptimize(object);
+        benchmark::DoNotOptimize(qobject_cast<const QTabBar *>(object));
+    }
+}
+BENCHMARK(castToTabBar);
+
 } // namespace
 
 int main(int argc, char **argv)
 {
     return runBenchmarks(argc, argv);
 }
+
+#include "LookUpBenchmark.moc"

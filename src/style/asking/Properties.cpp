@@ -1,10 +1,11 @@
 #include "style/asking/Properties.h"
 
+#include "style/asking/DeclaredProperties.h"
+
 #include <QtCore/QMetaProperty>
 
 #include <algorithm>
 #include <array>
-#include <typeinfo>
 
 namespace TARN {
 
@@ -62,7 +63,48 @@ bool isSetOn(const QObject &object, const char *property)
                        [property](const QByteArray &name) { return name == property; });
 }
 
+/// Tells whether a property was set on \a object that its class does not declare.
+bool isDynamic(const QObject &object, Property property)
+{
+    const QList<QByteArray> names = object.dynamicPropertyNames();
+    return std::any_of(names.cbegin(), names.cend(),
+                       [property](const QByteArray &name) { return name == nameOf(property); });
+}
+
+/// Returns the value of a property that is declared at \a index, or dynamic when that is -1.
+QVariant valueOf(const QObject &object, Property property, int index)
+{
+    return index >= 0 ? object.metaObject()->property(index).read(&object)
+                      : object.property(nameOf(property));
+}
+
 } // namespace
+
+QVariant propertyOf(const QObject *object, Property property)
+{
+    if (!object) {
+        return {};
+    }
+    const int index = declaredIndex(*object->metaObject(), property);
+    const bool exists = index >= 0 || isDynamic(*object, property);
+    return exists ? valueOf(*object, property, index) : QVariant();
+}
+
+bool isSet(const QObject *object, Property property)
+{
+    if (!object) {
+        return false;
+    }
+    // Most properties are asked for in vain, which is not to cost even an empty value.
+    const int index = declaredIndex(*object->metaObject(), property);
+    const bool exists = index >= 0 || isDynamic(*object, property);
+    return exists && valueOf(*object, property, index).toBool();
+}
+
+void setProperty(QObject &object, Property property, const QVariant &value)
+{
+    object.setProperty(nameOf(property), value);
+}
 
 QVariant propertyOf(const QObject *object, const char *property)
 {
@@ -83,14 +125,6 @@ bool isSet(const QObject *object, const char *property)
     const bool exists =
         object && (indexOf(*object->metaObject(), property) >= 0 || isSetOn(*object, property));
     return exists && propertyOf(object, property).toBool();
-}
-
-bool isA(const QObject *object, const char *className)
-{
-    static ClassAnswers<bool> inherited;
-    // Classes without a meta object of their own may know further names all the same.
-    return object && inherited.answer(&typeid(*object), className,
-                                      [&] { return object->inherits(className); });
 }
 
 } // namespace TARN

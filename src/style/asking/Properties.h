@@ -1,20 +1,27 @@
 #pragma once
 
-#include <QtCore/QObject>
+#include "catalogue/Properties.h"
+#include "style/asking/Classes.h"
+
 #include <QtCore/QVariant>
 
-/// What widgets tell about themselves. Painting asks often, and mostly in vain: what the classes of
-/// the widgets settle is remembered by class. All names must be string literals.
+/// What widgets tell about themselves. A property that the class of an object declares hides one
+/// that was set on the object.
 namespace TARN {
 
-/// Returns the value of \a property, declared by the class of \a object or set on it; an invalid
-/// one when there is no such property or no \a object.
-QVariant propertyOf(const QObject *object, const char *property);
+/// Returns the value of \a property; an invalid one when there is no such property or no \a object.
+QVariant propertyOf(const QObject *object, Property property);
 
 /// Tells whether \a object exists and its \a property is true.
-bool isSet(const QObject *object, const char *property);
+bool isSet(const QObject *object, Property property);
 
-/// Tells whether \a object exists and is of the class \a className or one derived from it.
-bool isA(const QObject *object, const char *className);
+/// Hands \a value to \a object.
+void setProperty(QObject &object, Property property, const QVariant &value);
+
+/// \name The same by names, which must be string literals
+/// \{
+QVariant propertyOf(const QObject *object, const char *property);
+bool isSet(const QObject *object, const char *property);
+/// \}
 
 } // namespace TARN
