@@ -1,6 +1,7 @@
 #include "theme/CleanSwitch.h"
 
 #include "resources/kept/ProcessCache.h"
+#include "style/asking/Properties.h"
 #include "theme/DocumentLinks.h"
 #include "theme/ThemeFootprint.h"
 
@@ -137,7 +138,7 @@ void fetchIcons()
 CleanSwitch::CleanSwitch(QApplication &app, ThemeFootprint &footprint)
     : m_app(app)
     , m_footprint(footprint)
-    , m_active(app.property("appLiveThemeSwitch").toBool())
+    , m_active(isSet(&app, Property::AppLiveThemeSwitch))
     , m_formerFont(QGuiApplication::font())
     , m_formerLink(QGuiApplication::palette().link())
 {

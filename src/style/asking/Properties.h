@@ -1,7 +1,6 @@
 #pragma once
 
 #include "catalogue/Properties.h"
-#include "style/asking/Classes.h"
 
 #include <QtCore/QVariant>
 
@@ -17,11 +16,5 @@ bool isSet(const QObject *object, Property property);
 
 /// Hands \a value to \a object.
 void setProperty(QObject &object, Property property, const QVariant &value);
-
-/// \name The same by names, which must be string literals
-/// \{
-QVariant propertyOf(const QObject *object, const char *property);
-bool isSet(const QObject *object, const char *property);
-/// \}
 
 } // namespace TARN

@@ -3,6 +3,7 @@
 #include "catalogue/ComposedBrushes.h"
 #include "catalogue/Names.h"
 #include "catalogue/Words.h"
+#include "style/asking/Classes.h"
 #include "style/asking/OptionState.h"
 #include "style/asking/Properties.h"
 #include "style/brushes/KeptBrushes.h"
@@ -10,9 +11,11 @@
 #include <QtGui/QCursor>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QComboBox>
+#include <QtWidgets/QCommandLinkButton>
 #include <QtWidgets/QDateTimeEdit>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QStyleOption>
+#include <QtWidgets/QTabBar>
 #include <QtWidgets/QTimeEdit>
 
 #include <algorithm>
@@ -26,8 +29,8 @@ bool isPopupVisible(const QComboBox &comboBox)
 {
     const QObjectList &children = comboBox.children();
     return std::any_of(children.cbegin(), children.cend(), [](const QObject *child) {
-        return isA(child, "QComboBoxPrivateContainer") &&
-               static_cast<const QWidget *>(child)->isVisible();
+        const auto *frame = qobject_cast<const QFrame *>(child);
+        return frame && frame->isVisible() && isA(frame, "QComboBoxPrivateContainer");
     });
 }
 
@@ -103,7 +106,7 @@ ButtonBrushChooser::ButtonBrushChooser(const QStyleOption &option, const QWidget
     , m_widget(widget)
     , m_parent(widget ? widget->parent() : nullptr)
     , m_enabled(!widget || widget->isEnabled())
-    , m_checkable(isSet(widget, "checkable"))
+    , m_checkable(isSet(widget, Property::Checkable))
     , m_kind(kindWord())
     , m_state(stateWord())
 {
@@ -128,10 +131,10 @@ bool ButtonBrushChooser::hasFeature(QStyleOptionButton::ButtonFeature feature) c
 
 KindWord ButtonBrushChooser::kindWord() const
 {
-    if (isSet(m_widget, "highlighted")) {
+    if (isSet(m_widget, Property::Highlighted)) {
         return highlightedKind();
     }
-    for (const char *property : {"Status", "Order", "ButtonType"}) {
+    for (const Property property : {Property::Status, Property::Order, Property::ButtonType}) {
         const QString kind = propertyOf(m_widget, property).toString();
         if (!kind.isEmpty()) {
             return KindWord(kind);
@@ -155,8 +158,9 @@ StateWord ButtonBrushChooser::stateWord() const
 
 CheckState ButtonBrushChooser::checkState() const
 {
-    if (isSet(m_widget, "blinking")) {
-        return isSet(m_widget, "blink_checked") ? CheckState::Checked : CheckState::Unchecked;
+    if (isSet(m_widget, Property::Blinking)) {
+        return isSet(m_widget, Property::BlinkChecked) ? CheckState::Checked
+                                                       : CheckState::Unchecked;
     }
     if (hasFeature(QStyleOptionButton::DefaultButton) && has(QStyle::State_Enabled) &&
         has(QStyle::State_Active)) {
@@ -208,7 +212,7 @@ void ButtonBrushChooser::chooseForFlatButton()
         return;
     }
     m_brushes.border = m_brushes.background;
-    const bool prominent = isSet(m_widget, "highlighted") || m_kind.name() == Words::borea;
+    const bool prominent = isSet(m_widget, Property::Highlighted) || m_kind.name() == Words::borea;
     if (prominent && has(QStyle::State_Sunken)) {
         m_brushes.foreground = brush(ComposedWidget::Button, highlightedKind(), uncheckedHover,
                                      BrushField::Foreground);
@@ -217,7 +221,7 @@ void ButtonBrushChooser::chooseForFlatButton()
 
 void ButtonBrushChooser::chooseForOutlineButton()
 {
-    if (!isSet(m_widget, "outline")) {
+    if (!isSet(m_widget, Property::Outline)) {
         return;
     }
     if (hovered() && has(QStyle::State_On) && !has(QStyle::State_Sunken)) {
@@ -236,7 +240,7 @@ void ButtonBrushChooser::chooseForInput()
     const auto *edit = qobject_cast<const QDateTimeEdit *>(m_widget);
     if (edit && !qobject_cast<const QTimeEdit *>(m_widget) && edit->calendarPopup()) {
         chooseForCalendarEdit(*edit);
-    } else if (isA(m_widget, "QAbstractSpinBox")) {
+    } else if (qobject_cast<const QAbstractSpinBox *>(m_widget)) {
         chooseForSpinBox();
     } else if (const auto *comboBox = qobject_cast<const QComboBox *>(m_widget)) {
         chooseForComboBox(*comboBox);
@@ -278,7 +282,8 @@ void ButtonBrushChooser::chooseForComboBox(const QComboBox &comboBox)
 
 void ButtonBrushChooser::chooseForCommandLink()
 {
-    if (!isA(m_widget, "QCommandLinkButton") || !hasFeature(QStyleOptionButton::DefaultButton)) {
+    if (!hasFeature(QStyleOptionButton::DefaultButton) ||
+        !qobject_cast<const QCommandLinkButton *>(m_widget)) {
         return;
     }
     if (has(QStyle::State_Enabled) && !has(QStyle::State_On) && !has(QStyle::State_MouseOver) &&
@@ -289,18 +294,18 @@ void ButtonBrushChooser::chooseForCommandLink()
 
 void ButtonBrushChooser::chooseForTabBarButton()
 {
-    if (isA(m_parent, "QTabBar")) {
+    if (qobject_cast<const QTabBar *>(m_parent)) {
         m_brushes.border = cardBorderBrush();
     }
 }
 
 void ButtonBrushChooser::chooseForWorkflowButton()
 {
-    if (!isSet(m_parent, "ButtonGroupWidget_Workflow")) {
+    if (!isSet(m_parent, Property::ButtonGroupWorkflow)) {
         return;
     }
-    if (isSet(m_parent, "ButtonGroupWidget_Exclusive")) {
-        if (isSet(m_widget, "checked")) {
+    if (isSet(m_parent, Property::ButtonGroupExclusive)) {
+        if (isSet(m_widget, Property::Checked)) {
             m_brushes.foreground = m_brushes.border =
                 themeBrush(BrushName::ForegroundBrush, m_enabled);
         } else {

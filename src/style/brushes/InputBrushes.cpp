@@ -14,7 +14,7 @@ QBrush fieldBrush(bool enabled)
 
 bool isInError(const QWidget *widget)
 {
-    return isSet(widget, "drawErrorIndicator");
+    return isSet(widget, Property::DrawErrorIndicator);
 }
 
 QBrush errorBrush(bool enabled)

@@ -47,7 +47,7 @@ QStyle::PixelMetric arrowMetric(const QWidget *widget)
 
 bool drawArrow(const PaintRequest &request, const char *icon)
 {
-    if (isSet(request.widget, "no menu arrow")) {
+    if (isSet(request.widget, Property::NoMenuArrow)) {
         return true;
     }
     const QRect &room = request.option->rect;

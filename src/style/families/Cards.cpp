@@ -30,26 +30,26 @@ enum class Part { None, Header, Contents, Footer };
 
 Part partOf(const QWidget *widget)
 {
-    if (isSet(widget, "CardWidgetBase_Header")) {
+    if (isSet(widget, Property::CardHeader)) {
         return Part::Header;
     }
-    if (isSet(widget, "CardWidgetBase_Contents")) {
+    if (isSet(widget, Property::CardContents)) {
         return Part::Contents;
     }
-    return isSet(widget, "CardWidgetBase_Footer") ? Part::Footer : Part::None;
+    return isSet(widget, Property::CardFooter) ? Part::Footer : Part::None;
 }
 
 /// Tells whether \a property is true for a part, which it may have from its card.
-bool isSetForPart(const QWidget &part, const char *property)
+bool isSetForPart(const QWidget &part, Property property)
 {
     return isSet(&part, property) || isSet(part.parent(), property);
 }
 
 bool hasBorder(const QWidget &part)
 {
-    QVariant shape = propertyOf(&part, "shape");
+    QVariant shape = propertyOf(&part, Property::Shape);
     if (!shape.isValid()) {
-        shape = propertyOf(part.parent(), "shape");
+        shape = propertyOf(part.parent(), Property::Shape);
     }
     return !shape.isValid() || shape.value<QFrame::Shape>() != QFrame::NoFrame;
 }
@@ -65,15 +65,15 @@ struct Joins
 Joins joinsOf(const QWidget &widget, Part part)
 {
     // A minimised card shows no contents.
-    const bool hasContents = !isSet(widget.parent(), "minimized");
-    const bool hasHeader = isSetForPart(widget, "headerVisible");
-    const bool hasFooter = isSetForPart(widget, "footerVisible");
+    const bool hasContents = !isSet(widget.parent(), Property::Minimized);
+    const bool hasHeader = isSetForPart(widget, Property::HeaderVisible);
+    const bool hasFooter = isSetForPart(widget, Property::FooterVisible);
     Joins joins;
     joins.atTop = (part == Part::Contents && hasHeader) ||
                   (part == Part::Footer && (hasContents || hasHeader));
     joins.atBottom = (part == Part::Contents && hasFooter) ||
                      (part == Part::Header && (hasContents || hasFooter));
-    if (isSetForPart(widget, "invertedAppearance")) {
+    if (isSetForPart(widget, Property::InvertedAppearance)) {
         std::swap(joins.atTop, joins.atBottom);
     }
     return joins;
@@ -108,7 +108,7 @@ QBrush faceOf(const QWidget &widget, Part part, bool enabled)
         return Qt::NoBrush;
     }
     const QBrush &face = themeBrush(BrushName::BackgroundUpLevel1Brush, enabled);
-    return isSetForPart(widget, "expandable") ? withOpacity(face, expandableOpacity) : face;
+    return isSetForPart(widget, Property::Expandable) ? withOpacity(face, expandableOpacity) : face;
 }
 
 /// Returns the outline of a part, which is open where the part joins another one.
@@ -139,29 +139,21 @@ void drawSeparator(QPainter &painter, const QRect &rect, const Joins &joins, con
 
 void polishPart(QWidget &widget)
 {
-    if (isSet(&widget, "CardWidgetBase_Header") || isSet(&widget, "CardWidgetBase_Contents") ||
-        isSet(&widget, "CardWidgetBase_Footer")) {
-        widget.setAttribute(Qt::WA_StyledBackground);
-    }
+    widget.setAttribute(Qt::WA_StyledBackground);
 }
 
 void polishTitle(QWidget &widget)
 {
-    if (!isSet(&widget, "CardWidgetBase_Title")) {
-        return;
-    }
     const QFont minimizedFont = ThemeResources::getFont(QStringLiteral("base"));
     const QFont defaultFont = ThemeResources::getFont(QStringLiteral("medium"));
-    widget.setProperty("CardWidgetBase_Title_MinimizedFont", minimizedFont);
-    widget.setProperty("CardWidgetBase_Title_DefaultFont", defaultFont);
-    setPolishedFont(widget, isSet(widget.parent(), "minimized") ? minimizedFont : defaultFont);
+    setProperty(widget, Property::CardTitleMinimizedFont, minimizedFont);
+    setProperty(widget, Property::CardTitleDefaultFont, defaultFont);
+    setPolishedFont(widget,
+                    isSet(widget.parent(), Property::Minimized) ? minimizedFont : defaultFont);
 }
 
 void polishSubtitle(QWidget &widget)
 {
-    if (!isSet(&widget, "CardWidgetBase_Subtitle")) {
-        return;
-    }
     QPalette palette = widget.palette();
     palette.setBrush(QPalette::All, QPalette::WindowText,
                      themeBrush(BrushName::ForegroundDisabledBrush, true));
@@ -172,9 +164,10 @@ void polishSubtitle(QWidget &widget)
 
 void polishCard(QWidget &widget)
 {
-    widget.setProperty("BackgroundBrush", themeBrush(BrushName::ForegroundMouseOverBrush, true));
-    widget.setProperty("BackgroundBrushDisabled",
-                       themeBrush(BrushName::ForegroundMouseOverBrush, false));
+    setProperty(widget, Property::BackgroundBrush,
+                themeBrush(BrushName::ForegroundMouseOverBrush, true));
+    setProperty(widget, Property::BackgroundBrushDisabled,
+                themeBrush(BrushName::ForegroundMouseOverBrush, false));
 }
 
 bool drawPart(const PaintRequest &request)
@@ -190,7 +183,7 @@ bool drawPart(const PaintRequest &request)
     const bool bordered = hasBorder(widget);
     const Joins joins = joinsOf(widget, part);
     const int radius =
-        isSetForPart(widget, "CardWidget_NoCornerRadius") ? 0 : cornerRadius(CornerSize::Medium);
+        isSetForPart(widget, Property::CardNoCornerRadius) ? 0 : cornerRadius(CornerSize::Medium);
 
     painter.save();
     painter.setClipRect(option.rect, Qt::IntersectClip);

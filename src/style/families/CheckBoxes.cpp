@@ -219,7 +219,7 @@ bool drawCheckIndicator(const PaintRequest &request)
     if (!qstyleoption_cast<const QStyleOptionButton *>(request.option)) {
         return false;
     }
-    if (isSet(request.widget, "switch")) {
+    if (isSet(request.widget, Property::Switch)) {
         drawSwitch(request);
     } else {
         drawBox(request, cornerRadius(CornerSize::Base));

@@ -20,15 +20,15 @@ constexpr ColorName seriesColorNames[] = {
 };
 
 /// Hands \a widget \a brush and its disabled twin.
-void setBrushes(QWidget &widget, const QByteArray &property, BrushName brush)
+void setBrushes(QWidget &widget, Property property, Property twin, BrushName brush)
 {
-    widget.setProperty(property.constData(), themeBrush(brush, true));
-    widget.setProperty((property + "Disabled").constData(), themeBrush(brush, false));
+    setProperty(widget, property, themeBrush(brush, true));
+    setProperty(widget, twin, themeBrush(brush, false));
 }
 
-void setColor(QWidget &widget, const char *property, ColorName color)
+void setColor(QWidget &widget, Property property, ColorName color)
 {
-    widget.setProperty(property, themeColor(color, true));
+    setProperty(widget, property, themeColor(color, true));
 }
 
 QList<QColor> seriesColors()
@@ -44,36 +44,34 @@ QList<QColor> seriesColors()
 
 void polishContainer(QWidget &widget)
 {
-    if (isSet(&widget, "ButtonGroupWidget_Container") ||
-        isSet(&widget, "ColorButtonWidget_Container")) {
-        widget.setProperty("CornerRadius",
-                           ThemeResources::getCornerRadius(QStringLiteral("BaseSize")));
-    }
+    setProperty(widget, Property::CornerRadius,
+                ThemeResources::getCornerRadius(QStringLiteral("BaseSize")));
 }
 
 void polishButtonGroup(QWidget &widget)
 {
-    setBrushes(widget, "BackgroundBrush", BrushName::ListBackgroundBrush);
-    setBrushes(widget, "BorderBrush", BrushName::ListBorderBrush);
-    setBrushes(widget, "WorkflowLinkBrush", BrushName::PrioritySecondaryUpLevel1Brush);
+    setBrushes(widget, Property::BackgroundBrush, Property::BackgroundBrushDisabled,
+               BrushName::ListBackgroundBrush);
+    setBrushes(widget, Property::BorderBrush, Property::BorderBrushDisabled,
+               BrushName::ListBorderBrush);
+    setBrushes(widget, Property::WorkflowLinkBrush, Property::WorkflowLinkBrushDisabled,
+               BrushName::PrioritySecondaryUpLevel1Brush);
 }
 
 void polishRoundedPixmap(QWidget &widget)
 {
-    const QVariant pixmap = widget.property("roundedPixmap");
+    const QVariant pixmap = propertyOf(&widget, Property::RoundedPixmap);
     if (pixmap.userType() != QMetaType::QPixmap || pixmap.value<QPixmap>().isNull()) {
         return;
     }
-    widget.setProperty("BorderBrush", themeBrush(BrushName::BackgroundSubLevel1Brush, true));
-    widget.setProperty("CornerRadius",
-                       ThemeResources::getCornerRadius(QStringLiteral("MediumSize")));
+    setProperty(widget, Property::BorderBrush,
+                themeBrush(BrushName::BackgroundSubLevel1Brush, true));
+    setProperty(widget, Property::CornerRadius,
+                ThemeResources::getCornerRadius(QStringLiteral("MediumSize")));
 }
 
 void polishPill(QWidget &widget)
 {
-    if (!isSet(&widget, "Pill_Font")) {
-        return;
-    }
     QFont font = ThemeResources::getFont(QStringLiteral("small"));
     font.setWeight(QFont::Bold);
     setPolishedFont(widget, font);
@@ -81,14 +79,14 @@ void polishPill(QWidget &widget)
 
 void polishPeriodicTable(QWidget &widget)
 {
-    setColor(widget, "PeriodicTableDelegate_BackgroundColor", ColorName::StatusConfigColor);
-    setColor(widget, "PeriodicTableDelegate_BorderColor", ColorName::StatusConfigColor);
-    setColor(widget, "PeriodicTableDelegate_ForegroundColor", ColorName::ForegroundColor);
-    setColor(widget, "PeriodicTableDelegate_ForegroundSubLevelColor",
+    setColor(widget, Property::PeriodicTableBackgroundColor, ColorName::StatusConfigColor);
+    setColor(widget, Property::PeriodicTableBorderColor, ColorName::StatusConfigColor);
+    setColor(widget, Property::PeriodicTableForegroundColor, ColorName::ForegroundColor);
+    setColor(widget, Property::PeriodicTableForegroundSubLevelColor,
              ColorName::ForegroundSubLevel1Color);
-    setColor(widget, "PeriodicTableDelegate_ForegroundUpLevelColor",
+    setColor(widget, Property::PeriodicTableForegroundUpLevelColor,
              ColorName::ForegroundUpLevel1Color);
-    widget.setProperty("PeriodicTableDelegate_ColorList", QVariant::fromValue(seriesColors()));
+    setProperty(widget, Property::PeriodicTableColorList, QVariant::fromValue(seriesColors()));
 }
 
 } // namespace TARN::Components

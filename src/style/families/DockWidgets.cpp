@@ -3,14 +3,13 @@
 #include "catalogue/Names.h"
 #include "resources/kept/ProcessCache.h"
 #include "style/asking/OptionState.h"
-#include "style/asking/Properties.h"
 #include "style/brushes/KeptBrushes.h"
 #include "style/drawing/Grips.h"
 #include "style/drawing/Lines.h"
 
 #include <QtGui/QPainter>
+#include <QtWidgets/QDockWidget>
 #include <QtWidgets/QStyleOption>
-#include <QtWidgets/QWidget>
 
 #include <optional>
 
@@ -104,7 +103,7 @@ void polish(QWidget &widget)
 
 bool drawBackground(const PaintRequest &request)
 {
-    if (!isA(request.widget, "QDockWidget")) {
+    if (!qobject_cast<const QDockWidget *>(request.widget)) {
         return false;
     }
     request.painter->fillRect(request.option->rect, request.option->palette.light());

@@ -3,6 +3,7 @@
 #include "catalogue/Names.h"
 #include "resources/ThemeResources.h"
 #include "resources/kept/ProcessCache.h"
+#include "style/asking/Classes.h"
 #include "style/asking/OptionState.h"
 #include "style/asking/Properties.h"
 #include "style/brushes/KeptBrushes.h"
@@ -140,7 +141,7 @@ bool drawFocusRect(const PaintRequest &request)
         return false;
     }
     const bool byKeyboard = has(*request.option, QStyle::State_KeyboardFocusChange);
-    if (!byKeyboard || isSet(request.widget, "hideFocusRect")) {
+    if (!byKeyboard || isSet(request.widget, Property::HideFocusRect)) {
         return true;
     }
     drawDashedOutline(request.option->rect, request.option->palette.text(), *request.painter);

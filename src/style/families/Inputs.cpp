@@ -1,6 +1,7 @@
 #include "style/families/Inputs.h"
 
 #include "catalogue/Names.h"
+#include "style/asking/Classes.h"
 #include "style/asking/OptionState.h"
 #include "style/asking/Properties.h"
 #include "style/brushes/ButtonBrushChoice.h"
@@ -14,6 +15,8 @@
 #include <QtWidgets/QAbstractSpinBox>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QDateTimeEdit>
+#include <QtWidgets/QPlainTextEdit>
+#include <QtWidgets/QTextEdit>
 
 namespace TARN::Inputs {
 
@@ -26,14 +29,14 @@ constexpr auto liesOnPanel = QStyleOptionFrame::Flat;
 
 bool isTextEdit(const QWidget *widget)
 {
-    return isA(widget, "QTextEdit") || isA(widget, "QPlainTextEdit");
+    return qobject_cast<const QTextEdit *>(widget) || qobject_cast<const QPlainTextEdit *>(widget);
 }
 
 /// The option of a text edit does not tell.
 bool isReadOnly(const PaintRequest &request)
 {
     return has(*request.option, QStyle::State_ReadOnly) ||
-           (isTextEdit(request.widget) && isSet(request.widget, "readOnly"));
+           (isTextEdit(request.widget) && isSet(request.widget, Property::ReadOnly));
 }
 
 QPen framePen(const PaintRequest &request)
@@ -94,7 +97,7 @@ bool isComboBoxEditor(const QWidget *widget)
         return edit->calendarPopup() &&
                (edit->displayedSections() & QDateTimeEdit::DateSections_Mask);
     }
-    return isA(parent, "QComboBox");
+    return qobject_cast<const QComboBox *>(parent);
 }
 
 /// Draws the ground of the editor of \a spinBox, the same as that of the spin box: it shows that it

@@ -39,8 +39,9 @@ constexpr Part parts[] = {
 
 const QStyleOptionSlider *minimizedOption(const QStyleOption *option, const QWidget *widget)
 {
-    return isSet(widget, "minimized") ? qstyleoption_cast<const QStyleOptionSlider *>(option)
-                                      : nullptr;
+    return isSet(widget, Property::Minimized)
+               ? qstyleoption_cast<const QStyleOptionSlider *>(option)
+               : nullptr;
 }
 
 int scrollAreaFrameWidth(const QWidget *widget)
@@ -70,7 +71,7 @@ QRect minimizedSliderRect(const SubControlRequest &request, Qt::Orientation orie
 /// has promised to paint all of its pixels has to keep that.
 bool hasGroove(const QWidget *widget)
 {
-    return !isSet(widget, "minimized") || widget->testAttribute(Qt::WA_OpaquePaintEvent) ||
+    return !isSet(widget, Property::Minimized) || widget->testAttribute(Qt::WA_OpaquePaintEvent) ||
            !qobject_cast<const QAbstractScrollArea *>(widget->parentWidget());
 }
 
@@ -98,8 +99,9 @@ QBrush handleBrush(const QStyleOptionSlider &option, const QWidget *widget)
     if (isUnderMouse) {
         return themeColor(ColorName::MainColor, true);
     }
-    return themeBrush(isSet(widget, "minimized") ? BrushName::PrioritySecondarySubLevel1Brush
-                                                 : BrushName::ForegroundDisabledBrush,
+    return themeBrush(isSet(widget, Property::Minimized)
+                          ? BrushName::PrioritySecondarySubLevel1Brush
+                          : BrushName::ForegroundDisabledBrush,
                       isEnabled(option));
 }
 

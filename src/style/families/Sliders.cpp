@@ -30,22 +30,22 @@ constexpr int tickGap = 2;
 
 struct RangeSliderBrush
 {
-    const char *property;
+    Property property;
     BrushName brush;
     bool enabled;
 };
 
 constexpr RangeSliderBrush rangeSliderBrushes[] = {
-    {"SunkenBrush", BrushName::SliderThumbNailPressedBrush, true},
-    {"HoverBrush", BrushName::SliderThumbNailHoverBrush, true},
-    {"DefaultBrush", BrushName::InputForegroundBrush, true},
-    {"DefaultBrushDisabled", BrushName::InputForegroundBrush, false},
-    {"BackgroundBrush", BrushName::InputBackgroundBrush, true},
-    {"BackgroundBrushDisabled", BrushName::InputBackgroundBrush, false},
-    {"BorderBrush", BrushName::InputBorderBrush, true},
-    {"BorderBrushDisabled", BrushName::InputBorderBrush, false},
-    {"RangeBrush", BrushName::MainBrush, true},
-    {"RangeBrushDisabled", BrushName::MainBrush, false},
+    {Property::SunkenBrush, BrushName::SliderThumbNailPressedBrush, true},
+    {Property::HoverBrush, BrushName::SliderThumbNailHoverBrush, true},
+    {Property::DefaultBrush, BrushName::InputForegroundBrush, true},
+    {Property::DefaultBrushDisabled, BrushName::InputForegroundBrush, false},
+    {Property::BackgroundBrush, BrushName::InputBackgroundBrush, true},
+    {Property::BackgroundBrushDisabled, BrushName::InputBackgroundBrush, false},
+    {Property::BorderBrush, BrushName::InputBorderBrush, true},
+    {Property::BorderBrushDisabled, BrushName::InputBorderBrush, false},
+    {Property::RangeBrush, BrushName::MainBrush, true},
+    {Property::RangeBrushDisabled, BrushName::MainBrush, false},
 };
 
 /// The height of a range slider's handle and groove: a range slider that was made high fills its
@@ -58,7 +58,7 @@ int rangeExtent(const QWidget &widget, int length)
 QRect grooveRect(const SubControlRequest &request, Qt::Orientation orientation)
 {
     QRect rect = request.option->rect;
-    const bool isRange = isSet(request.widget, "rangeSlider");
+    const bool isRange = isSet(request.widget, Property::RangeSlider);
     const int length = request.metric(QStyle::PM_SliderLength);
     const int thickness = request.metric(QStyle::PM_SliderThickness) / 2 - 2;
     if (orientation == Qt::Horizontal) {
@@ -74,7 +74,7 @@ QRect handleRect(const SubControlRequest &request, Qt::Orientation orientation)
 {
     QRect rect = request.baseRect();
     const int length = request.metric(QStyle::PM_SliderLength);
-    const bool isRange = isSet(request.widget, "rangeSlider");
+    const bool isRange = isSet(request.widget, Property::RangeSlider);
     rect.setSize(QSize(length, isRange ? rangeExtent(*request.widget, length) : length));
     const QPoint center = request.option->rect.center();
     if (orientation == Qt::Horizontal) {
@@ -110,7 +110,7 @@ Look lookOf(const PaintRequest &request, const QStyleOptionSlider &option)
             rectOf(QStyle::SC_SliderHandle),
             option.orientation == Qt::Horizontal,
             option.upsideDown,
-            isSet(request.widget, "slider_high_contrast")};
+            isSet(request.widget, Property::SliderHighContrast)};
 }
 
 /// Draws the groove or a part of it, with an outline in high contrast.
@@ -162,8 +162,8 @@ void drawGroove(const Look &look)
             Helpers::NoStraightCorner);
     // What a range slider fills lies between two handles, of which the option knows one: such a
     // slider draws it itself.
-    if (!isSet(look.request.widget, "rangeSlider")) {
-        const bool isHighlighted = isSet(look.request.widget, "slider_highlighted");
+    if (!isSet(look.request.widget, Property::RangeSlider)) {
+        const bool isHighlighted = isSet(look.request.widget, Property::SliderHighlighted);
         drawBar(look, filledRect(look),
                 themeBrush(isHighlighted ? BrushName::MainBrush : BrushName::MainSubLevel1Brush,
                            enabled),
@@ -322,15 +322,16 @@ QSize sliderSize(const ContentsRequest &request)
 
 void polishRangeSlider(QWidget &widget)
 {
-    widget.setProperty("orientation", Qt::Horizontal);
-    widget.setProperty("invertedAppearance", false);
-    widget.setProperty("invertedControls", false);
-    widget.setProperty("tracking", true);
-    widget.setProperty("tickPosition", 0);
+    setProperty(widget, Property::Orientation, Qt::Horizontal);
+    setProperty(widget, Property::InvertedAppearance, false);
+    setProperty(widget, Property::InvertedControls, false);
+    setProperty(widget, Property::Tracking, true);
+    setProperty(widget, Property::TickPosition, 0);
     for (const RangeSliderBrush &row : rangeSliderBrushes) {
-        widget.setProperty(row.property, themeBrush(row.brush, row.enabled));
+        setProperty(widget, row.property, themeBrush(row.brush, row.enabled));
     }
-    widget.setProperty("CornerRadius", ThemeResources::getCornerRadius(QStringLiteral("BaseSize")));
+    setProperty(widget, Property::CornerRadius,
+                ThemeResources::getCornerRadius(QStringLiteral("BaseSize")));
 }
 
 bool drawSlider(const PaintRequest &request)

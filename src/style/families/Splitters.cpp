@@ -34,10 +34,10 @@ bool drawHandle(const PaintRequest &request)
     if (option.rect.isEmpty()) {
         return true;
     }
-    if (isSet(request.widget, "filled")) {
+    if (isSet(request.widget, Property::Filled)) {
         painter.fillRect(option.rect, cardBorderBrush(isEnabled(option)));
     }
-    if (isSet(request.widget, "small")) {
+    if (isSet(request.widget, Property::Small)) {
         // A small handle is narrower than its grips.
         painter.save();
         painter.setClipRect(option.rect, Qt::IntersectClip);

@@ -2,12 +2,12 @@
 
 #include "catalogue/Names.h"
 #include "style/asking/OptionState.h"
-#include "style/asking/Properties.h"
 #include "style/brushes/KeptBrushes.h"
 #include "style/drawing/Grips.h"
 #include "style/drawing/Lines.h"
 
 #include <QtGui/QPainter>
+#include <QtWidgets/QMainWindow>
 #include <QtWidgets/QStyleOption>
 #include <QtWidgets/QToolBar>
 
@@ -84,7 +84,7 @@ bool drawToolBar(const PaintRequest &request)
         return false;
     }
     // Among other widgets a tool bar is a row of buttons on their common ground.
-    if (!toolBar->isWindow() && !isA(toolBar->parent(), "QMainWindow")) {
+    if (!toolBar->isWindow() && !qobject_cast<const QMainWindow *>(toolBar->parent())) {
         return true;
     }
     QPainter &painter = *request.painter;

@@ -1,7 +1,6 @@
 #include "style/families/Windows.h"
 
 #include "style/asking/OptionState.h"
-#include "style/asking/Properties.h"
 #include "style/brushes/KeptBrushes.h"
 #include "style/drawing/Lines.h"
 #include "style/families/Cards.h"
@@ -9,6 +8,7 @@
 
 #include <QtGui/QPainter>
 #include <QtWidgets/QDockWidget>
+#include <QtWidgets/QMainWindow>
 #include <QtWidgets/QScrollArea>
 
 namespace TARN::Windows {
@@ -43,7 +43,7 @@ bool drawBackground(const PaintRequest &request)
 {
     const QStyleOption &option = *request.option;
     // A main window inside of another one is one of its contents and lies on their ground.
-    if (isA(request.widget, "QMainWindow") && request.widget->isWindow()) {
+    if (qobject_cast<const QMainWindow *>(request.widget) && request.widget->isWindow()) {
         request.painter->fillRect(option.rect, option.palette.dark());
         return true;
     }

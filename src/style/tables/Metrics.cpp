@@ -20,17 +20,17 @@ constexpr int tabIconSize = 16;
 
 int separatorExtent(const QWidget *widget)
 {
-    return isSet(widget, "small") ? 1 : 6;
+    return isSet(widget, Property::Small) ? 1 : 6;
 }
 
 int indicatorWidth(const QWidget *widget)
 {
-    return isSet(widget, "switch") ? 28 : 14;
+    return isSet(widget, Property::Switch) ? 28 : 14;
 }
 
 int indicatorHeight(const QWidget *widget)
 {
-    return isSet(widget, "switch") ? 15 : 14;
+    return isSet(widget, Property::Switch) ? 15 : 14;
 }
 
 /// Icons and buttons of tabs grow with the text.

@@ -1,5 +1,6 @@
 #include "style/tables/Polishing.h"
 
+#include "style/asking/Classes.h"
 #include "style/asking/Properties.h"
 #include "style/families/Cards.h"
 #include "style/families/ComboBoxes.h"
@@ -16,12 +17,16 @@
 #include "style/families/item_views/ItemViews.h"
 #include "style/families/tabs/TabSizes.h"
 
-#include <QtWidgets/QWidget>
+#include <QtWidgets/QAbstractItemView>
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QCommandLinkButton>
+#include <QtWidgets/QDockWidget>
+#include <QtWidgets/QMainWindow>
+#include <QtWidgets/QProgressBar>
+#include <QtWidgets/QScrollArea>
+#include <QtWidgets/QTabBar>
 
-#include <algorithm>
-#include <iterator>
-#include <unordered_map>
-#include <vector>
+#include <optional>
 
 namespace TARN {
 
@@ -37,19 +42,44 @@ void allowShadow(QWidget &widget)
     widget.setWindowFlag(Qt::NoDropShadowWindowHint, false);
 }
 
-/// The properties by which widgets of any class tell what they are.
-constexpr const char *marks[] = {
-    "CardWidgetBase_Header",       "CardWidgetBase_Contents", "CardWidgetBase_Footer",
-    "CardWidgetBase_Title",        "CardWidgetBase_Subtitle", "ButtonGroupWidget_Container",
-    "ColorButtonWidget_Container", "roundedPixmap",           "Pill_Font"};
+/// The widgets that a rule is for.
+struct Bearers
+{
+    bool (*areOfClass)(const QWidget &widget) = nullptr;
+    const char *className = nullptr;
+    std::optional<Property> mark;
+};
 
-/// Stands for the class of every widget that has one of the marks.
-constexpr char marked[] = "";
+constexpr Bearers allWidgets;
+
+template <typename Widget>
+bool isOfClass(const QWidget &widget)
+{
+    return qobject_cast<const Widget *>(&widget);
+}
+
+/// Those of a class of which the rule uses more than its name.
+template <typename Widget>
+constexpr Bearers ofClass()
+{
+    return {isOfClass<Widget>, nullptr, {}};
+}
+
+/// Those that say that they are of a class.
+constexpr Bearers named(const char *className)
+{
+    return {nullptr, className, {}};
+}
+
+/// Those of any class that tell what they are by a property.
+constexpr Bearers marked(Property mark)
+{
+    return {nullptr, nullptr, mark};
+}
 
 struct Rule
 {
-    /// The class that the rule is for; null when it is for every widget.
-    const char *className;
+    Bearers bearers;
     void (*apply)(QWidget &widget);
     /// Of those that have the style work on: it hears the widget, or owns what the widget gets.
     void (*applyFor)(QStyle &style, QWidget &widget) = nullptr;
@@ -57,93 +87,67 @@ struct Rule
 
 // In the order in which they apply: later rules see what earlier ones did.
 constexpr Rule rules[] = {
-    {"QProgressBar", ProgressBars::polish},
-    {"QAbstractItemView", ItemViews::polishPalette},
-    {"QAbstractItemView", ItemViews::polishItems},
-    {"QLabel", Labels::polishDisabledText},
-    {"QTabBar", hearHovering},
-    {"QGroupBox", hearHovering},
-    {"QTabWidget", Tabs::polishFont},
-    {"QTabBar", Tabs::polishFont},
-    {"QStatusBar", StatusBars::polish},
-    {"QScrollArea", Windows::polishScrollArea},
-    {"QMainWindow", Windows::polishMainWindow},
-    {"QDockWidget", DockWidgets::polish},
-    {marked, Cards::polishPart},
-    {marked, Cards::polishTitle},
-    {marked, Cards::polishSubtitle},
-    {"TARN::Components::CardWidget", Cards::polishCard},
-    {"QComboBox", nullptr, ComboBoxes::polishDelegate},
-    {marked, Components::polishContainer},
-    {"TARN::Components::ButtonGroupWidget", Components::polishButtonGroup},
-    {marked, Components::polishRoundedPixmap},
-    {marked, Components::polishPill},
-    {"TARN::PeriodicTable::PeriodicTableView", Components::polishPeriodicTable},
-    {"TARN::Components::RangeSlider", Sliders::polishRangeSlider},
-    {"QCommandLinkButton", nullptr, Buttons::polishCommandLink},
-    {nullptr, allowShadow},
-    {"QToolBoxButton", ToolBoxes::polishButton},
-    {"QToolBox", ToolBoxes::polishToolBox},
-    {"QLineEditIconButton", nullptr, Inputs::polishClearButton},
+    {ofClass<QProgressBar>(), ProgressBars::polish},
+    {ofClass<QAbstractItemView>(), ItemViews::polishPalette},
+    {ofClass<QAbstractItemView>(), ItemViews::polishItems},
+    {named("QLabel"), Labels::polishDisabledText},
+    {ofClass<QTabBar>(), hearHovering},
+    {named("QGroupBox"), hearHovering},
+    {named("QTabWidget"), Tabs::polishFont},
+    {named("QTabBar"), Tabs::polishFont},
+    {named("QStatusBar"), StatusBars::polish},
+    {ofClass<QScrollArea>(), Windows::polishScrollArea},
+    {ofClass<QMainWindow>(), Windows::polishMainWindow},
+    {ofClass<QDockWidget>(), DockWidgets::polish},
+    {marked(Property::CardHeader), Cards::polishPart},
+    {marked(Property::CardContents), Cards::polishPart},
+    {marked(Property::CardFooter), Cards::polishPart},
+    {marked(Property::CardTitle), Cards::polishTitle},
+    {marked(Property::CardSubtitle), Cards::polishSubtitle},
+    {named("TARN::Components::CardWidget"), Cards::polishCard},
+    {ofClass<QComboBox>(), nullptr, ComboBoxes::polishDelegate},
+    {marked(Property::ButtonGroupContainer), Components::polishContainer},
+    {marked(Property::ColorButtonContainer), Components::polishContainer},
+    {named("TARN::Components::ButtonGroupWidget"), Components::polishButtonGroup},
+    {allWidgets, Components::polishRoundedPixmap},
+    {marked(Property::PillFont), Components::polishPill},
+    {named("TARN::PeriodicTable::PeriodicTableView"), Components::polishPeriodicTable},
+    {named("TARN::Components::RangeSlider"), Sliders::polishRangeSlider},
+    {ofClass<QCommandLinkButton>(), nullptr, Buttons::polishCommandLink},
+    {allWidgets, allowShadow},
+    {named("QToolBoxButton"), ToolBoxes::polishButton},
+    {named("QToolBox"), ToolBoxes::polishToolBox},
+    {named("QLineEditIconButton"), nullptr, Inputs::polishClearButton},
     // Alt is heard where key events end up when nobody takes them.
-    {nullptr, nullptr, Windows::polishWindow},
+    {allWidgets, nullptr, Windows::polishWindow},
 };
 
-/// What of the rules is the same for all widgets of a class.
-struct ClassRules
+bool concerns(const Rule &rule, const QWidget &widget)
 {
-    std::vector<const Rule *> rules; ///< those that the class does not rule out, in order
-    bool declaresMark = false;
-};
-
-bool isMarkRule(const Rule &rule)
-{
-    return rule.className == marked;
-}
-
-ClassRules findClassRules(const QWidget &widget)
-{
-    ClassRules result;
-    for (const Rule &rule : rules) {
-        if (!rule.className || isMarkRule(rule) || isA(&widget, rule.className)) {
-            result.rules.push_back(&rule);
-        }
+    const Bearers &bearers = rule.bearers;
+    if (bearers.areOfClass) {
+        return bearers.areOfClass(widget);
     }
-    result.declaresMark = std::any_of(std::begin(marks), std::end(marks), [&](const char *mark) {
-        return widget.metaObject()->indexOfProperty(mark) >= 0;
-    });
-    return result;
-}
-
-const ClassRules &classRules(const QWidget &widget)
-{
-    // Comparing the names of a class and its bases with those of all rules takes longer than most
-    // rules themselves.
-    static std::unordered_map<const QMetaObject *, ClassRules> known;
-    auto found = known.find(widget.metaObject());
-    if (found == known.end()) {
-        found = known.emplace(widget.metaObject(), findClassRules(widget)).first;
+    if (bearers.className) {
+        return isA(&widget, bearers.className);
     }
-    return found->second;
+    return !bearers.mark || isSet(&widget, *bearers.mark);
 }
 
 } // namespace
 
 void polishWidget(QStyle &style, QWidget &widget)
 {
-    const ClassRules &ofClass = classRules(widget);
-    for (const Rule *rule : ofClass.rules) {
-        const bool applies =
-            !isMarkRule(*rule) || ofClass.declaresMark || !widget.dynamicPropertyNames().isEmpty();
-        if (applies) {
-            rule->apply ? rule->apply(widget) : rule->applyFor(style, widget);
+    for (const Rule &rule : rules) {
+        if (concerns(rule, widget)) {
+            rule.apply ? rule.apply(widget) : rule.applyFor(style, widget);
         }
     }
 }
 
 void unpolishWidget(QWidget &widget)
 {
-    if (isA(&widget, "QTabBar") || isA(&widget, "QGroupBox")) {
+    if (isOfClass<QTabBar>(widget) || isA(&widget, "QGroupBox")) {
         widget.setAttribute(Qt::WA_Hover, false);
     }
 }

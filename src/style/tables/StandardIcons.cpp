@@ -5,6 +5,7 @@
 #include "resources/ThemeColorHelper.h"
 #include "resources/ThemeResources.h"
 #include "resources/kept/ProcessCache.h"
+#include "style/asking/Properties.h"
 
 #include <QtGui/QImage>
 #include <QtGui/QPixmap>
@@ -90,7 +91,7 @@ QIcon themeIcon(const char *name)
 
 QIcon highlightedIcon(const QStyleOption *option, const QWidget *widget)
 {
-    const QString name = widget ? widget->property("highlightedIcon").toString() : QString();
+    const QString name = propertyOf(widget, Property::HighlightedIcon).toString();
     if (name.isEmpty()) {
         return {};
     }

@@ -1,12 +1,14 @@
 #include "style/text/WidgetFont.h"
 
+#include "style/asking/Properties.h"
+
 #include <QtWidgets/QWidget>
 
 namespace TARN {
 
 void setPolishedFont(QWidget &widget, const QFont &font)
 {
-    widget.setProperty("_q_styleSheetWidgetFont", font);
+    setProperty(widget, Property::StyleSheetFont, font);
     widget.setFont(font);
 }
 

@@ -4,6 +4,7 @@
 #include "catalogue/Names.h"
 #include "resources/ThemeColorHelper.h"
 #include "style/asking/OptionState.h"
+#include "style/asking/Properties.h"
 
 #include <QtGui/QPalette>
 #include <QtWidgets/QAction>
@@ -14,29 +15,24 @@ namespace TARN {
 
 namespace {
 
-constexpr char originalIconProperty[] = "originalIcon";
-/// What a button's icon was last tinted with. Setting an icon has the button painted again, so
-/// that setting the same one at every painting would never end.
-constexpr char tintProperty[] = "_tarn_iconTint";
-constexpr char tintedIconProperty[] = "_tarn_tintedIcon";
-
 bool isHovered(const QWidget &button)
 {
     return button.underMouse() && button.isEnabled();
 }
 
-/// Tells whether \a button still shows what it was given for \a tint.
+/// Tells whether \a button still shows what it was given for \a tint. Setting an icon has the
+/// button painted again, so that setting the same one at every painting would never end.
 bool isTinted(const QAbstractButton &button, const QBrush &tint)
 {
-    return button.property(tintProperty).value<QBrush>() == tint &&
-           button.property(tintedIconProperty).toLongLong() == button.icon().cacheKey();
+    return propertyOf(&button, Property::IconTint).value<QBrush>() == tint &&
+           propertyOf(&button, Property::TintedIcon).toLongLong() == button.icon().cacheKey();
 }
 
 void setTintedIcon(QAbstractButton &button, const QIcon &source, const QBrush &tint)
 {
     button.setIcon(ThemeColorHelper::getModifiedIconWithForegroundBrush(source, tint));
-    button.setProperty(tintProperty, tint);
-    button.setProperty(tintedIconProperty, button.icon().cacheKey());
+    setProperty(button, Property::IconTint, tint);
+    setProperty(button, Property::TintedIcon, button.icon().cacheKey());
 }
 
 /// Tells whether the button was made for an action that an application added to its line edit:
@@ -52,7 +48,7 @@ bool isOfAnAddedAction(const QToolButton &button)
 void tintOnPaint(QObject &filter, QWidget &widget)
 {
     // What a former style put on it came from another theme.
-    widget.setProperty(tintProperty, QVariant());
+    setProperty(widget, Property::IconTint, QVariant());
     widget.installEventFilter(&filter);
 }
 
@@ -80,13 +76,13 @@ void tintCommandLink(QCommandLinkButton &button)
     if (button.icon().isNull()) {
         return;
     }
-    if (!button.property(originalIconProperty).isValid()) {
-        button.setProperty(originalIconProperty, button.icon());
+    if (!propertyOf(&button, Property::OriginalIcon).isValid()) {
+        setProperty(button, Property::OriginalIcon, button.icon());
     }
     const bool isHighlighted = !button.isChecked() && !button.isDown() && isHovered(button);
     const QBrush tint = isHighlighted ? hoveredForeground() : button.palette().buttonText();
     if (!isTinted(button, tint)) {
-        setTintedIcon(button, button.property(originalIconProperty).value<QIcon>(), tint);
+        setTintedIcon(button, propertyOf(&button, Property::OriginalIcon).value<QIcon>(), tint);
     }
 }
 

@@ -1,6 +1,6 @@
 #include "style/watching/EventFilter.h"
 
-#include "style/asking/Properties.h"
+#include "style/asking/Classes.h"
 #include "style/watching/AltKey.h"
 #include "style/watching/ButtonIcons.h"
 
@@ -14,8 +14,9 @@ namespace {
 
 void tintIcon(QWidget &widget)
 {
-    if (isA(&widget, "QLineEditIconButton")) {
-        tintClearButton(static_cast<QToolButton &>(widget));
+    auto *toolButton = qobject_cast<QToolButton *>(&widget);
+    if (toolButton && isA(toolButton, "QLineEditIconButton")) {
+        tintClearButton(*toolButton);
     } else if (auto *commandLink = qobject_cast<QCommandLinkButton *>(&widget)) {
         tintCommandLink(*commandLink);
     }

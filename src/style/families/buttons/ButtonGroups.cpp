@@ -28,9 +28,9 @@ struct GroupPlace
 GroupPlace groupPlace(const QWidget *widget)
 {
     const QObject *group = widget ? widget->parent() : nullptr;
-    return {propertyOf(group, "orientation").toInt() == Qt::Horizontal,
-            propertyOf(group, "ButtonGroupWidget_VisibleCount").toInt(),
-            propertyOf(widget, "Button_VisibleIndex").toInt()};
+    return {propertyOf(group, Property::Orientation).toInt() == Qt::Horizontal,
+            propertyOf(group, Property::ButtonGroupVisibleCount).toInt(),
+            propertyOf(widget, Property::ButtonVisibleIndex).toInt()};
 }
 
 /// Returns the corners at which a button adjoins others of its group. The places count from the
@@ -84,7 +84,7 @@ void drawInGroup(const QStyle &proxy, const QRectF &rect, QPainter &painter,
                  const QWidget *widget)
 {
     const GroupPlace place = groupPlace(widget);
-    if (!isSet(widget ? widget->parent() : nullptr, "ButtonGroupWidget_Workflow")) {
+    if (!isSet(widget ? widget->parent() : nullptr, Property::ButtonGroupWorkflow)) {
         if (isDrawnInGroup(place)) {
             Helpers::drawRoundedRectShape(rect, radius, innerCorners(place), &painter);
         }

@@ -1,6 +1,7 @@
 #include "style/families/buttons/ButtonPanels.h"
 
 #include "catalogue/Names.h"
+#include "style/asking/Classes.h"
 #include "style/asking/OptionState.h"
 #include "style/asking/Properties.h"
 #include "style/brushes/ButtonBrushChoice.h"
@@ -42,7 +43,7 @@ Helpers::StraightCornerFlags straightCorners(const QStyleOption &option)
 bool isHollow(const PaintRequest &request)
 {
     return !has(*request.option, QStyle::State_On) && !has(*request.option, QStyle::State_Sunken) &&
-           !isHovered(*request.option) && isSet(request.widget, "outline");
+           !isHovered(*request.option) && isSet(request.widget, Property::Outline);
 }
 
 /// Tells whether a panel is the arrow part of a push button that is split in two, which is known by
@@ -68,7 +69,7 @@ QRectF panelRect(const PaintRequest &request)
 
 int panelRadius(const PaintRequest &request)
 {
-    if (!isSet(request.widget, "circular")) {
+    if (!isSet(request.widget, Property::Circular)) {
         return cornerRadius(CornerSize::Base);
     }
     // Half of an odd side is rounded up; the shape itself limits the radius to the exact half.
@@ -87,11 +88,11 @@ const QColor &dangerColor(const PaintRequest &request)
 
 QPen panelPen(const QBrush &border, const QBrush &face, const PaintRequest &request)
 {
-    if (isSet(request.widget, "drawErrorIndicator")) {
+    if (isSet(request.widget, Property::DrawErrorIndicator)) {
         return borderPen(dangerColor(request));
     }
     // A face without a frame keeps its size: its own brush takes the place of the line.
-    return borderPen(isSet(request.widget, "frameless") ? face : border);
+    return borderPen(isSet(request.widget, Property::Frameless) ? face : border);
 }
 
 } // namespace
@@ -123,7 +124,7 @@ bool drawPanel(const PaintRequest &request)
     } else {
         drawShape(*request.painter, rect, radius, pen, face, straightCorners(*request.option));
     }
-    if (isSet(request.widget, "drawErrorIndicator")) {
+    if (isSet(request.widget, Property::DrawErrorIndicator)) {
         Helpers::drawInputStatusIndicator(rect, radius, dangerColor(request), request.painter);
     }
     return true;

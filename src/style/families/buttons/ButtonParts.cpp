@@ -27,8 +27,9 @@ void drawFocus(const PaintRequest &request, const QPalette &palette, const QRect
     }
     QStyleOptionFocusRect focus;
     focus.QStyleOption::operator=(*request.option);
-    focus.rect =
-        isSet(request.widget, "circular") ? insideOfCircle(rect, request.option->rect) : rect;
+    focus.rect = isSet(request.widget, Property::Circular)
+                     ? insideOfCircle(rect, request.option->rect)
+                     : rect;
     // The line is drawn in the text colour: that of the button stands out from every face.
     focus.palette = paletteWith(palette, QPalette::Text, palette.buttonText());
     request.draw(QStyle::PE_FrameFocusRect, focus);

@@ -94,11 +94,11 @@ LabelPlaces placesBesideEachOther(const QStyleOptionToolButton &button, const QS
     const int iconWidth = iconSize.width() + iconSpacing;
     QRect icon(rect.left(), rect.top(), iconWidth, rect.height());
     QRect text = rect.adjusted(iconWidth, 0, 0, 0);
-    if (isSet(widget, "UserConnector")) {
+    if (isSet(widget, Property::UserConnector)) {
         // Who is signed in is shown as in a list of people: the name, and the portrait at the end.
         icon.moveRight(rect.right());
         text.moveLeft(rect.left());
-    } else if (!propertyOf(widget, "ButtonType").toString().isEmpty()) {
+    } else if (!propertyOf(widget, Property::ButtonType).toString().isEmpty()) {
         // A button of a kind looks like the push buttons of that kind: all in the middle.
         const int textWidth = button.fontMetrics.size(Qt::TextShowMnemonic, button.text).width();
         const int shift = qMax(0, (text.width() - textWidth) / 2);
@@ -166,7 +166,7 @@ bool showsMenuArrow(const QStyleOptionToolButton &option, const QWidget *widget)
     return option.features.testFlag(QStyleOptionToolButton::HasMenu) &&
            !option.features.testFlag(QStyleOptionToolButton::Arrow) &&
            !option.features.testFlag(QStyleOptionToolButton::Menu) &&
-           !isSet(widget, "no menu arrow");
+           !isSet(widget, Property::NoMenuArrow);
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "catalogue/Names.h"
 #include "resources/kept/ProcessCache.h"
+#include "style/asking/Classes.h"
 #include "style/asking/OptionState.h"
 #include "style/asking/Properties.h"
 #include "style/drawing/Grips.h"
@@ -76,7 +77,7 @@ public:
     {
         if (m_option.features.testFlag(QStyleOptionViewItem::Alternate)) {
             fill(m_option.rect, BrushName::ItemViewAlternateBackgroundBrush);
-        } else if (!isSet(m_widget, "customItemViewPalette")) {
+        } else if (!isSet(m_widget, Property::CustomItemViewPalette)) {
             fill(m_option.rect, BrushName::ItemViewBackgroundBrush);
         }
     }
@@ -93,8 +94,8 @@ public:
     void drawSeparator() const
     {
         // The entries of a pop-up are a menu's: what separates them is an entry of its own.
-        if (m_option.rect.isEmpty() || !isSet(m_widget, "drawItemsSeparators") ||
-            isSet(m_widget, "flatView") || isInComboBoxPopup(m_widget)) {
+        if (m_option.rect.isEmpty() || !isSet(m_widget, Property::DrawItemsSeparators) ||
+            isSet(m_widget, Property::FlatView) || isInComboBoxPopup(m_widget)) {
             return;
         }
         const QRect &rect = m_option.rect;
@@ -159,7 +160,7 @@ QSize itemSize(const ContentsRequest &request)
 
 void polishPalette(QWidget &widget)
 {
-    if (isSet(&widget, "customItemViewPalette")) {
+    if (isSet(&widget, Property::CustomItemViewPalette)) {
         return;
     }
     QPalette palette = widget.palette();
@@ -172,25 +173,25 @@ void polishPalette(QWidget &widget)
 
 void polishItems(QWidget &widget)
 {
-    if (isSet(&widget, "customItemDelegate")) {
+    if (isSet(&widget, Property::CustomItemDelegate)) {
         return;
     }
     if (!isA(&widget, "QTreeView")) {
-        widget.setProperty("highlightItemsOnMouseHover", true);
+        setProperty(widget, Property::HighlightItemsOnMouseHover, true);
         widget.setAttribute(Qt::WA_MouseTracking);
     }
     if (!isA(&widget, "QTableView")) {
-        widget.setProperty("drawItemsSeparators", true);
+        setProperty(widget, Property::DrawItemsSeparators, true);
     }
     if (isA(&widget, "QListView")) {
-        widget.setProperty("drawChildIndicatorInListView", true);
+        setProperty(widget, Property::DrawChildIndicatorInListView, true);
     }
-    widget.setProperty("hideFocusRect", true);
+    setProperty(widget, Property::HideFocusRect, true);
 }
 
 bool showsHover(const QStyleOptionViewItem &option, const QWidget *widget)
 {
-    return isHovered(option) && isSet(widget, "highlightItemsOnMouseHover");
+    return isHovered(option) && isSet(widget, Property::HighlightItemsOnMouseHover);
 }
 
 bool drawColumnArrow(const PaintRequest &request)

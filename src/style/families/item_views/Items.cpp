@@ -3,6 +3,7 @@
 #include "catalogue/Names.h"
 #include "resources/ThemeColorHelper.h"
 #include "resources/kept/ProcessCache.h"
+#include "style/asking/Classes.h"
 #include "style/asking/OptionState.h"
 #include "style/asking/Properties.h"
 #include "style/drawing/Icons.h"
@@ -42,7 +43,7 @@ bool hasChildIndicator(const QStyleOptionViewItem &option, const QWidget *widget
     // Items that stand side by side are as wide as their texts, with no room for an indicator; and
     // a combo box offers no way to the items below.
     return list && option.index.isValid() && list->viewMode() == QListView::ListMode &&
-           !list->isWrapping() && isSet(list, "drawChildIndicatorInListView") &&
+           !list->isWrapping() && isSet(list, Property::DrawChildIndicatorInListView) &&
            !isA(list, "QComboBoxListView") && option.index.model()->hasChildren(option.index);
 }
 

@@ -83,7 +83,7 @@ EntryPainter::EntryPainter(const QStyleOptionMenuItem &option, const PaintReques
     , m_painter(*request.painter)
     , m_widget(request.widget)
     , m_isHighlighted(isEnabled(option) && has(option, QStyle::State_Selected))
-    , m_isComboBoxEntry(isSet(request.widget, "_q_isComboBoxPopupItem") ||
+    , m_isComboBoxEntry(isSet(request.widget, Property::ComboBoxPopupItem) ||
                         qobject_cast<const QComboBox *>(request.widget))
 {
 }

@@ -130,7 +130,7 @@ QRect textRect(const PaintRequest &request, const QStyleOptionTab &tab)
 int textFlags(const PaintRequest &request, const QStyleOptionTab &tab)
 {
     Qt::Alignment alignment = Qt::AlignCenter;
-    const QVariant chosen = propertyOf(request.widget, "textAlignment");
+    const QVariant chosen = propertyOf(request.widget, Property::TextAlignment);
     if (chosen.isValid()) {
         alignment = chosen.userType() == qMetaTypeId<Qt::Alignment>()
                         ? chosen.value<Qt::Alignment>()

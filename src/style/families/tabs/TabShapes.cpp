@@ -26,17 +26,17 @@ constexpr int closeMarginShare = 5;
 
 struct SizeProperty
 {
-    const char *ofApplication;
-    const char *ofTabBar;
+    Property ofApplication;
+    Property ofTabBar;
     CornerSize radius;
 };
 
 /// The first one that is set wins, those of the application before those of the tab bar.
 constexpr SizeProperty sizeProperties[] = {
-    {"appSmallTabSize", "smallTabSize", CornerSize::Small},
-    {"appBaseTabSize", "baseTabSize", CornerSize::Base},
-    {"appMediumTabSize", "mediumTabSize", CornerSize::Medium},
-    {"appLargeTabSize", "largeTabSize", CornerSize::Large},
+    {Property::AppSmallTabSize, Property::SmallTabSize, CornerSize::Small},
+    {Property::AppBaseTabSize, Property::BaseTabSize, CornerSize::Base},
+    {Property::AppMediumTabSize, Property::MediumTabSize, CornerSize::Medium},
+    {Property::AppLargeTabSize, Property::LargeTabSize, CornerSize::Large},
 };
 
 int tabRadius(const QWidget *tabBar)
@@ -158,7 +158,7 @@ void drawHighlight(QPainter &painter, const QRect &rect, const QStyleOptionTab &
 QRect coveredByTabs(const QStyleOptionTabWidgetFrame &frame, const QWidget *widget)
 {
     const auto *tabWidget = qobject_cast<const QTabWidget *>(widget);
-    if (!tabWidget || !isSet(tabWidget, "stretched")) {
+    if (!tabWidget || !isSet(tabWidget, Property::Stretched)) {
         return frame.tabBarRect;
     }
     const QTabBar &tabBar = *tabWidget->tabBar();

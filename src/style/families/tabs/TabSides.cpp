@@ -28,7 +28,8 @@ bool isVertical(QTabBar::Shape shape)
 
 bool isCurrentTabHighlighted(const QWidget *tabBar)
 {
-    return isSet(tabBar, "currentTabHighlighted") || isSet(qApp, "appCurrentTabHighlighted");
+    return isSet(tabBar, Property::CurrentTabHighlighted) ||
+           isSet(qApp, Property::AppCurrentTabHighlighted);
 }
 
 } // namespace TARN::Tabs

@@ -31,46 +31,47 @@ int baseHeight(const QSize &size)
 
 int applicationTabHeight(int base)
 {
-    if (isSet(qApp, "appSmallTabSize")) {
+    if (isSet(qApp, Property::AppSmallTabSize)) {
         return smallHeight;
     }
-    if (isSet(qApp, "appBaseTabSize")) {
+    if (isSet(qApp, Property::AppBaseTabSize)) {
         return base;
     }
-    return isSet(qApp, "appLargeTabSize") ? largeHeight : mediumHeight;
+    return isSet(qApp, Property::AppLargeTabSize) ? largeHeight : mediumHeight;
 }
 
 int tabHeight(const QWidget &tabBar, int base)
 {
-    if (isSet(&tabBar, "largeTabSize")) {
+    if (isSet(&tabBar, Property::LargeTabSize)) {
         return largeHeight;
     }
-    if (isSet(&tabBar, "smallTabSize")) {
+    if (isSet(&tabBar, Property::SmallTabSize)) {
         return smallHeight;
     }
-    return isSet(&tabBar, "baseTabSize") ? base : applicationTabHeight(base);
+    return isSet(&tabBar, Property::BaseTabSize) ? base : applicationTabHeight(base);
 }
 
 QString applicationFontSize()
 {
-    if (isSet(qApp, "appSmallTabSize")) {
+    if (isSet(qApp, Property::AppSmallTabSize)) {
         return QStringLiteral("small");
     }
-    if (isSet(qApp, "appBaseTabSize")) {
+    if (isSet(qApp, Property::AppBaseTabSize)) {
         return QStringLiteral("base");
     }
-    return isSet(qApp, "appLargeTabSize") ? QStringLiteral("large") : QStringLiteral("medium");
+    return isSet(qApp, Property::AppLargeTabSize) ? QStringLiteral("large")
+                                                  : QStringLiteral("medium");
 }
 
 QString fontSize(const QWidget &widget)
 {
-    if (isSet(&widget, "largeTabSize")) {
+    if (isSet(&widget, Property::LargeTabSize)) {
         return QStringLiteral("large");
     }
-    if (isSet(&widget, "smallTabSize")) {
+    if (isSet(&widget, Property::SmallTabSize)) {
         return QStringLiteral("small");
     }
-    return isSet(&widget, "baseTabSize") ? QStringLiteral("base") : applicationFontSize();
+    return isSet(&widget, Property::BaseTabSize) ? QStringLiteral("base") : applicationFontSize();
 }
 
 bool isAtSide(const QTabWidget &tabWidget)
@@ -101,7 +102,7 @@ QRect tabBarRect(const SubElementRequest &request)
 {
     QRect rect = request.baseRect();
     const auto *option = qstyleoption_cast<const QStyleOptionTabWidgetFrame *>(request.option);
-    if (!option || !isSet(request.widget, "stretched")) {
+    if (!option || !isSet(request.widget, Property::Stretched)) {
         return rect;
     }
     if (isVertical(option->shape)) {
@@ -168,7 +169,7 @@ QSize tabSize(const ContentsRequest &request)
         (isAtSide(*tabWidget) ? size.rwidth() : size.rheight()) = height;
     }
     const auto *option = qstyleoption_cast<const QStyleOptionTab *>(request.option);
-    if (option && isSet(tabBar, "stretched")) {
+    if (option && isSet(tabBar, Property::Stretched)) {
         int &extent = isVertical(option->shape) ? size.rheight() : size.rwidth();
         extent = stretchedExtent(*option, *tabBar, extent);
     }
