@@ -1,6 +1,6 @@
-#include "CommandLine.h"
-#include "Literals.h"
-#include "Terminal.h"
+#include "command_line/CommandLine.h"
+#include "command_line/Terminal.h"
+#include "text/Literals.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>

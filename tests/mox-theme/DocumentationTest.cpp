@@ -1,10 +1,10 @@
 #include <QtTest/QtTest>
 
-#include <CommandLine.h>
-#include <Literals.h>
-#include <check/Rules.h>
-#include <generator/Scheme.h>
+#include <check/model/RuleTable.h>
+#include <command_line/CommandLine.h>
+#include <generator/recipes/Scheme.h>
 #include <mox-theme/support/JsonSchema.h>
+#include <text/Literals.h>
 
 using namespace TARN::ThemeTool;
 
@@ -265,7 +265,7 @@ void DocumentationTest::everyColorIsListed()
 void DocumentationTest::jsonExamplesFitTheirSchemas()
 {
     const QDir tool(sourceFolder().filePath("apps/mox-theme"_s));
-    const QMap<QString, QString> schemas{{"check"_s, "check/report.schema.json"_s},
+    const QMap<QString, QString> schemas{{"check"_s, "check/reports/report.schema.json"_s},
                                          {"diff"_s, "compare/diff.schema.json"_s}};
     const auto examples =
         matchesIn(read(ruleReference), R"(^\$ mox-theme (\w+) --format json .*\n(\{[^`]*)```$)"_s);

@@ -1,12 +1,12 @@
 #include "check/Check.h"
 
-#include "Literals.h"
-#include "check/ConfigurationRules.h"
-#include "check/ContrastRules.h"
-#include "check/ImageRules.h"
-#include "check/NameRules.h"
-#include "check/PaletteMapping.h"
-#include "check/StyleSheetRules.h"
+#include "check/model/PaletteMapping.h"
+#include "check/rules/ConfigurationRules.h"
+#include "check/rules/ContrastRules.h"
+#include "check/rules/ImageRules.h"
+#include "check/rules/NameRules.h"
+#include "check/rules/StyleSheetRules.h"
+#include "text/Literals.h"
 
 #include <resources/ThemeResources.h>
 

@@ -1,9 +1,9 @@
-#include "Literals.h"
-#include "Terminal.h"
+#include "command_line/Terminal.h"
 #include "commands/Commands.h"
 #include "commands/ThemeCreation.h"
-#include "generator/ThemeDefinition.h"
-#include "generator/ThemeWriter.h"
+#include "generator/files/ThemeWriter.h"
+#include "generator/recipes/ThemeDefinition.h"
+#include "text/Literals.h"
 
 namespace TARN::ThemeTool {
 

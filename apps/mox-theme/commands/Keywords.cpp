@@ -1,6 +1,6 @@
 #include "commands/Keywords.h"
 
-#include "Literals.h"
+#include "text/Literals.h"
 
 namespace TARN::ThemeTool {
 

@@ -1,10 +1,10 @@
-#include "Literals.h"
-#include "Terminal.h"
+#include "color/ColorText.h"
+#include "command_line/Terminal.h"
 #include "commands/Commands.h"
 #include "commands/ThemeCreation.h"
-#include "commands/ThemeName.h"
-#include "generator/ColorText.h"
-#include "generator/ThemeDefinition.h"
+#include "generator/recipes/ThemeDefinition.h"
+#include "generator/tokens/ThemeName.h"
+#include "text/Literals.h"
 
 namespace TARN::ThemeTool {
 

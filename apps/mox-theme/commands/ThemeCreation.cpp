@@ -1,12 +1,12 @@
 #include "commands/ThemeCreation.h"
 
-#include "Literals.h"
-#include "Terminal.h"
+#include "command_line/Terminal.h"
+#include "command_line/completion/Scripts.h"
 #include "commands/Commands.h"
-#include "completion/Scripts.h"
-#include "generator/ThemeDefinition.h"
-#include "generator/ThemeFolder.h"
-#include "generator/ThemeWriter.h"
+#include "generator/files/ThemeFolder.h"
+#include "generator/files/ThemeWriter.h"
+#include "generator/recipes/ThemeDefinition.h"
+#include "text/Literals.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>

@@ -1,6 +1,6 @@
-#include "Literals.h"
 #include "color/Tones.h"
 #include "compare/Differences.h"
+#include "text/Literals.h"
 
 #include <catalogue/Catalogue.h>
 #include <catalogue/Words.h>

@@ -1,6 +1,6 @@
-#include "Literals.h"
 #include "compare/DiffReports.h"
 #include "compare/VisibleDistance.h"
+#include "text/Literals.h"
 
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>

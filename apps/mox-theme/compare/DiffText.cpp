@@ -1,7 +1,7 @@
-#include "Terminal.h"
-#include "Wording.h"
+#include "command_line/Terminal.h"
 #include "compare/DiffReports.h"
 #include "compare/VisibleDistance.h"
+#include "text/Wording.h"
 
 #include <QtCore/QMap>
 

@@ -1,7 +1,7 @@
 #include "compare/Differences.h"
 
-#include "Literals.h"
 #include "compare/VisibleDistance.h"
+#include "text/Literals.h"
 
 #include <algorithm>
 

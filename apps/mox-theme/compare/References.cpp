@@ -1,6 +1,6 @@
 #include "compare/References.h"
 
-#include "Literals.h"
+#include "text/Literals.h"
 
 #include <readers/ConfigurationTags.h>
 

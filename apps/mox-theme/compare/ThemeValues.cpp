@@ -1,9 +1,9 @@
 #include "compare/ThemeValues.h"
 
-#include "Literals.h"
 #include "check/Check.h"
+#include "color/ColorText.h"
 #include "compare/References.h"
-#include "generator/ColorText.h"
+#include "text/Literals.h"
 
 #include <readers/QPaletteReader.h>
 #include <readers/ThemeConfigurationReader.h>

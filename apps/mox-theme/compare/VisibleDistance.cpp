@@ -1,8 +1,8 @@
 #include "compare/VisibleDistance.h"
 
-#include "Literals.h"
 #include "color/Oklch.h"
 #include "color/Tones.h"
+#include "text/Literals.h"
 
 #include <QtGui/QImage>
 #include <QtGui/QPainter>

@@ -1,6 +1,6 @@
 #include "import/Base16.h"
 
-#include "Literals.h"
+#include "text/Literals.h"
 
 #include <QtCore/QRegularExpression>
 #include <QtCore/QStringList>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "generator/Tokens.h"
+#include "generator/tokens/Tokens.h"
 
 #include <QtCore/QMap>
 #include <QtCore/QString>

@@ -1,6 +1,6 @@
 #include "import/KdeColors.h"
 
-#include "Literals.h"
+#include "text/Literals.h"
 
 #include <QtCore/QRegularExpression>
 #include <QtCore/QSet>

@@ -1,9 +1,9 @@
 #include "import/SchemeTokens.h"
 
-#include "Literals.h"
 #include "color/Tones.h"
-#include "generator/ThemeDefinition.h"
+#include "generator/recipes/ThemeDefinition.h"
 #include "import/SeenColors.h"
+#include "text/Literals.h"
 
 #include <catalogue/Catalogue.h>
 #include <common_utils/Contrast.h>

@@ -1,7 +1,7 @@
 #include "import/SeenColors.h"
 
-#include "Literals.h"
-#include "generator/ThemeDefinition.h"
+#include "generator/recipes/ThemeDefinition.h"
+#include "text/Literals.h"
 
 #include <catalogue/Catalogue.h>
 

@@ -1,7 +1,7 @@
 #include "preview/ContactSheet.h"
 
-#include "Literals.h"
 #include "preview/SheetLayout.h"
+#include "text/Literals.h"
 
 #include <QtGui/QPainter>
 #include <QtWidgets/QApplication>

@@ -1,7 +1,7 @@
 #include "preview/FindingsPanel.h"
 
-#include "Literals.h"
 #include "preview/FindingDelegate.h"
+#include "text/Literals.h"
 
 #include <QtCore/QDir>
 #include <QtGui/QStandardItemModel>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "check/Finding.h"
+#include "check/model/Finding.h"
 
 #include <QtWidgets/QWidget>
 

@@ -1,9 +1,9 @@
 #include "preview/LivePreview.h"
 
-#include "Literals.h"
 #include "preview/FindingsPanel.h"
 #include "preview/KeptFactors.h"
 #include "preview/ThemeSession.h"
+#include "text/Literals.h"
 
 #include <theme/ThemeQApplication.h>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "check/Finding.h"
+#include "check/model/Finding.h"
 #include "preview/ThemeFolderWatcher.h"
 
 #include <QtCore/QObject>

@@ -1,7 +1,7 @@
 #include "preview/ThemeFiles.h"
 
-#include "Literals.h"
 #include "preview/KeptFactors.h"
+#include "text/Literals.h"
 
 #include <readers/QPaletteReader.h>
 #include <readers/ThemeConfigurationReader.h>

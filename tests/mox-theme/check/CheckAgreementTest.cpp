@@ -7,7 +7,7 @@
 #include <QtCore/QSet>
 #include <QtTest/QtTest>
 
-#include <check/Rules.h>
+#include <check/model/RuleTable.h>
 #include <support/MessageRecorder.h>
 
 using namespace TARN;

@@ -5,7 +5,7 @@
 #include <QtGui/QColor>
 #include <QtTest/QtTest>
 
-#include <Literals.h>
+#include <text/Literals.h>
 
 using namespace TARN::ThemeTool;
 

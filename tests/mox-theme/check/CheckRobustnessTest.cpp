@@ -5,8 +5,8 @@
 #include <QtCore/QRandomGenerator>
 #include <QtTest/QtTest>
 
-#include <Literals.h>
 #include <support/MessageRecorder.h>
+#include <text/Literals.h>
 
 using namespace TARN::ThemeTool;
 

@@ -2,9 +2,9 @@
 
 #include <QtTest/QtTest>
 
-#include <Literals.h>
 #include <algorithm>
-#include <check/Rules.h>
+#include <check/model/RuleTable.h>
+#include <text/Literals.h>
 
 using namespace TARN::ThemeTool;
 

@@ -3,9 +3,9 @@
 #include <QtCore/QDir>
 #include <QtTest/QtTest>
 
-#include <Literals.h>
 #include <algorithm>
-#include <check/Rules.h>
+#include <check/model/RuleTable.h>
+#include <text/Literals.h>
 
 using namespace TARN::ThemeTool;
 

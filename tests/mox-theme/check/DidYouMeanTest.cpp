@@ -1,7 +1,7 @@
 #include <QtTest/QtTest>
 
-#include <Literals.h>
-#include <check/DidYouMean.h>
+#include <text/DidYouMean.h>
+#include <text/Literals.h>
 
 using namespace TARN::ThemeTool;
 

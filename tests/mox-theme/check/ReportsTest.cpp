@@ -5,8 +5,8 @@
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QtTest>
 
-#include <check/Reports.h>
-#include <check/Rules.h>
+#include <check/model/RuleTable.h>
+#include <check/reports/Reports.h>
 #include <mox-theme/support/JsonSchema.h>
 #include <support/Text.h>
 

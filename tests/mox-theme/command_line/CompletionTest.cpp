@@ -1,8 +1,8 @@
 #include <QtTest/QtTest>
 
-#include <Literals.h>
-#include <check/Rules.h>
-#include <completion/Scripts.h>
+#include <check/model/RuleTable.h>
+#include <command_line/completion/Scripts.h>
+#include <text/Literals.h>
 
 using namespace TARN::ThemeTool;
 

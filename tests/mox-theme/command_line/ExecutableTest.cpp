@@ -1,6 +1,6 @@
 #include <QtTest/QtTest>
 
-#include <Literals.h>
+#include <text/Literals.h>
 
 using TARN::ThemeTool::operator""_s;
 

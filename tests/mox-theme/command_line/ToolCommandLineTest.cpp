@@ -1,7 +1,7 @@
 #include <QtTest/QtTest>
 
-#include <CommandLine.h>
-#include <Literals.h>
+#include <command_line/CommandLine.h>
+#include <text/Literals.h>
 
 using namespace TARN::ThemeTool;
 

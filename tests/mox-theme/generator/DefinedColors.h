@@ -4,7 +4,7 @@
 #include <QtCore/QString>
 #include <QtGui/QColor>
 
-#include <generator/ThemeDefinition.h>
+#include <generator/recipes/ThemeDefinition.h>
 
 /// The colours of a theme by the names of its colours, its brushes, and its palette roles, which
 /// begin with "palette/".

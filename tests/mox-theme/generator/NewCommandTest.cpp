@@ -7,7 +7,7 @@
 #include <QtTest/QtTest>
 
 #include <commands/Commands.h>
-#include <generator/Tokens.h>
+#include <generator/tokens/Tokens.h>
 #include <mox-theme/support/Printed.h>
 #include <support/Text.h>
 #include <support/ThemeRepository.h>

@@ -6,8 +6,8 @@
 
 #include <check/Check.h>
 #include <commands/Commands.h>
-#include <generator/ThemeDefinition.h>
-#include <generator/ThemeWriter.h>
+#include <generator/files/ThemeWriter.h>
+#include <generator/recipes/ThemeDefinition.h>
 #include <mox-theme/support/Printed.h>
 #include <support/Text.h>
 

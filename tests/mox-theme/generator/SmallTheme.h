@@ -3,7 +3,7 @@
 #include <QtCore/QByteArray>
 #include <QtCore/QMap>
 
-#include <generator/ThemeDefinition.h>
+#include <generator/recipes/ThemeDefinition.h>
 
 /// Returns a theme of a few values, each of which differs from all others of its kind.
 TARN::ThemeTool::ThemeDefinition smallTheme();

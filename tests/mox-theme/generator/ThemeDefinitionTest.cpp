@@ -6,7 +6,7 @@
 #include <QtCore/QRandomGenerator>
 #include <QtTest/QtTest>
 
-#include <generator/ThemeDefinition.h>
+#include <generator/recipes/ThemeDefinition.h>
 
 using namespace TARN;
 using namespace TARN::ThemeTool;

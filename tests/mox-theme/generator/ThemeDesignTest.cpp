@@ -8,7 +8,7 @@
 #include <QtTest/QtTest>
 
 #include <color/Oklch.h>
-#include <generator/ThemeDefinition.h>
+#include <generator/recipes/ThemeDefinition.h>
 
 using namespace TARN;
 using namespace TARN::ThemeTool;

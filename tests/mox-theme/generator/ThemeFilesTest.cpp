@@ -8,7 +8,7 @@
 #include <QtGui/QIcon>
 #include <QtTest/QtTest>
 
-#include <generator/ThemeWriter.h>
+#include <generator/files/ThemeWriter.h>
 #include <support/Text.h>
 #include <support/ThemeRepository.h>
 

@@ -4,7 +4,7 @@
 #include <QtCore/QFile>
 #include <QtTest/QtTest>
 
-#include <generator/ThemeWriter.h>
+#include <generator/files/ThemeWriter.h>
 #include <support/Text.h>
 #include <support/ThemeRepository.h>
 #include <unistd.h>

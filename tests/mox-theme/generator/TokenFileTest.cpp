@@ -1,7 +1,7 @@
 #include <QtCore/QDir>
 #include <QtTest/QtTest>
 
-#include <generator/Tokens.h>
+#include <generator/tokens/Tokens.h>
 #include <support/Text.h>
 #include <support/ThemeRepository.h>
 

@@ -1,6 +1,6 @@
 #include <QtTest/QtTest>
 
-#include <generator/Tokens.h>
+#include <generator/tokens/Tokens.h>
 #include <support/Text.h>
 #include <support/ThemeRepository.h>
 

@@ -5,7 +5,7 @@
 #include <QtTest/QtTest>
 
 #include <color/Tones.h>
-#include <generator/ThemeDefinition.h>
+#include <generator/recipes/ThemeDefinition.h>
 #include <import/Base16.h>
 #include <import/KdeColors.h>
 #include <import/SchemeTokens.h>

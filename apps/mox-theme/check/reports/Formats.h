@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Literals.h"
-#include "check/Finding.h"
+#include "check/model/Finding.h"
+#include "text/Literals.h"
 
 #include <algorithm>
 

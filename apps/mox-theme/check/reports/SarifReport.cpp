@@ -1,4 +1,4 @@
-#include "check/Rules.h"
+#include "check/model/RuleTable.h"
 #include "check/reports/Formats.h"
 
 #include <QtCore/QDir>

@@ -1,6 +1,6 @@
-#include "Terminal.h"
-#include "Wording.h"
 #include "check/reports/Formats.h"
+#include "command_line/Terminal.h"
+#include "text/Wording.h"
 
 namespace TARN::ThemeTool::Reports {
 

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "command_line/CommandLine.h"
+
+namespace TARN::ThemeTool {
+
+/// Returns how \a command is called, in one line.
+QString usage(const CommandDescription &command);
+
+/// Returns the text that explains \a command.
+QString helpText(const CommandDescription &command);
+
+/// Returns the text that explains the tool and lists its commands.
+QString helpText();
+
+/// Returns \a words as a list in a sentence, such as "a, b or c".
+QString listed(const QStringList &words, const QString &conjunction);
+
+} // namespace TARN::ThemeTool
