@@ -1,5 +1,3 @@
-#include "SoundTheme.h"
-
 #include <readers/QPaletteReader.h>
 #include <readers/ThemeConfigurationReader.h>
 
@@ -8,6 +6,7 @@
 #include <QtTest/QtTest>
 
 #include <check/model/RuleTable.h>
+#include <mox-theme/support/SoundTheme.h>
 #include <support/MessageRecorder.h>
 
 using namespace TARN;

@@ -1,10 +1,9 @@
-#include "SoundTheme.h"
-
 #include <QtCore/QDir>
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QRandomGenerator>
 #include <QtTest/QtTest>
 
+#include <mox-theme/support/SoundTheme.h>
 #include <support/MessageRecorder.h>
 #include <text/Literals.h>
 

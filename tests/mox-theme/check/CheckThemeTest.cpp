@@ -1,10 +1,9 @@
-#include "SoundTheme.h"
-
 #include <QtCore/QDir>
 #include <QtTest/QtTest>
 
 #include <algorithm>
 #include <check/model/RuleTable.h>
+#include <mox-theme/support/SoundTheme.h>
 #include <text/Literals.h>
 
 using namespace TARN::ThemeTool;

@@ -1,8 +1,7 @@
-#include "SchemeFiles.h"
-
 #include <QtTest/QtTest>
 
 #include <import/Base16.h>
+#include <mox-theme/support/SchemeFiles.h>
 #include <support/Text.h>
 
 using namespace TARN::ThemeTool;

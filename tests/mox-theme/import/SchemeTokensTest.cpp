@@ -1,5 +1,3 @@
-#include "SchemeFiles.h"
-
 #include <common_utils/Contrast.h>
 
 #include <QtTest/QtTest>
@@ -9,6 +7,7 @@
 #include <import/Base16.h>
 #include <import/KdeColors.h>
 #include <import/SchemeTokens.h>
+#include <mox-theme/support/SchemeFiles.h>
 #include <support/Text.h>
 
 using namespace TARN::ThemeTool;

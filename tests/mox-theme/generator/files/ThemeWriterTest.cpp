@@ -1,10 +1,9 @@
-#include "SmallTheme.h"
-
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtTest/QtTest>
 
 #include <generator/files/ThemeWriter.h>
+#include <mox-theme/support/SmallTheme.h>
 #include <support/Text.h>
 #include <support/ThemeRepository.h>
 #include <unistd.h>

@@ -1,5 +1,3 @@
-#include "SmallTheme.h"
-
 #include <readers/ThemeConfigurationReader.h>
 #include <theme/BaseThemeSettings.h>
 
@@ -9,6 +7,7 @@
 #include <commands/Commands.h>
 #include <generator/tokens/Tokens.h>
 #include <mox-theme/support/Printed.h>
+#include <mox-theme/support/SmallTheme.h>
 #include <support/Text.h>
 #include <support/ThemeRepository.h>
 

@@ -1,5 +1,3 @@
-#include "DefinedColors.h"
-
 #include <catalogue/Catalogue.h>
 #include <common_utils/Contrast.h>
 
@@ -7,6 +5,7 @@
 #include <QtTest/QtTest>
 
 #include <generator/recipes/ThemeDefinition.h>
+#include <mox-theme/support/DefinedColors.h>
 
 using namespace TARN;
 using namespace TARN::ThemeTool;

@@ -1,10 +1,9 @@
-#include "SoundTheme.h"
-
 #include <common_utils/Contrast.h>
 
 #include <QtGui/QColor>
 #include <QtTest/QtTest>
 
+#include <mox-theme/support/SoundTheme.h>
 #include <text/Literals.h>
 
 using namespace TARN::ThemeTool;

@@ -1,5 +1,3 @@
-#include "SchemeFiles.h"
-
 #include <theme/BaseThemeSettings.h>
 
 #include <QtCore/QTemporaryDir>
@@ -8,6 +6,7 @@
 #include <commands/Commands.h>
 #include <memory>
 #include <mox-theme/support/Printed.h>
+#include <mox-theme/support/SchemeFiles.h>
 #include <support/Text.h>
 
 using namespace TARN::ThemeTool;

@@ -1,5 +1,3 @@
-#include "SmallTheme.h"
-
 #include <QtCore/QRandomGenerator>
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QtTest>
@@ -9,6 +7,7 @@
 #include <generator/files/ThemeWriter.h>
 #include <generator/recipes/ThemeDefinition.h>
 #include <mox-theme/support/Printed.h>
+#include <mox-theme/support/SmallTheme.h>
 #include <support/Text.h>
 
 using namespace TARN::ThemeTool;

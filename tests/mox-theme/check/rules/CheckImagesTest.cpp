@@ -1,10 +1,9 @@
-#include "SoundTheme.h"
-
 #include <QtCore/QBuffer>
 #include <QtCore/QDir>
 #include <QtGui/QImage>
 #include <QtTest/QtTest>
 
+#include <mox-theme/support/SoundTheme.h>
 #include <support/MessageRecorder.h>
 #include <text/Literals.h>
 

@@ -1,9 +1,8 @@
-#include "SoundTheme.h"
-
 #include <QtTest/QtTest>
 
 #include <algorithm>
 #include <check/model/RuleTable.h>
+#include <mox-theme/support/SoundTheme.h>
 #include <text/Literals.h>
 
 using namespace TARN::ThemeTool;

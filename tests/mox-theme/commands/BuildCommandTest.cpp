@@ -1,5 +1,3 @@
-#include "SmallTheme.h"
-
 #include <readers/ThemeConfigurationReader.h>
 #include <theme/BaseThemeSettings.h>
 
@@ -7,6 +5,7 @@
 
 #include <commands/Commands.h>
 #include <mox-theme/support/Printed.h>
+#include <mox-theme/support/SmallTheme.h>
 #include <support/Text.h>
 #include <support/ThemeRepository.h>
 

@@ -1,6 +1,3 @@
-#include "DefinedColors.h"
-#include "SimulatedVision.h"
-
 #include <catalogue/Catalogue.h>
 #include <catalogue/Words.h>
 
@@ -9,6 +6,8 @@
 
 #include <color/Oklch.h>
 #include <generator/recipes/ThemeDefinition.h>
+#include <mox-theme/support/DefinedColors.h>
+#include <mox-theme/support/SimulatedVision.h>
 
 using namespace TARN;
 using namespace TARN::ThemeTool;

@@ -1,11 +1,10 @@
-#include "SchemeFiles.h"
-
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QtTest>
 
 #include <check/Check.h>
 #include <commands/Commands.h>
 #include <mox-theme/support/Printed.h>
+#include <mox-theme/support/SchemeFiles.h>
 #include <support/Text.h>
 
 using namespace TARN::ThemeTool;
