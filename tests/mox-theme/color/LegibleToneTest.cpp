@@ -1,5 +1,3 @@
-#include "color/Tones.h"
-
 #include <common_utils/Contrast.h>
 
 #include <QtCore/QElapsedTimer>
@@ -8,6 +6,7 @@
 
 #include <cmath>
 #include <limits>
+#include <mox-theme/support/ToneDemands.h>
 
 using TARN::Helpers::contrastRatio;
 using TARN::Helpers::relativeLuminance;
@@ -15,11 +14,8 @@ using TARN::ThemeTool::ContrastDemand;
 using TARN::ThemeTool::legibleTone;
 using TARN::ThemeTool::meets;
 using TARN::ThemeTool::Oklch;
-using TARN::ThemeTool::toColor;
 using TARN::ThemeTool::ToneSide;
 using TARN::ThemeTool::toOklch;
-
-using Demands = QVector<ContrastDemand>;
 
 Q_DECLARE_METATYPE(ContrastDemand)
 
@@ -28,76 +24,9 @@ namespace {
 const QColor darkSurface(0x20, 0x28, 0x2F);
 const QColor nearBlack(0x12, 0x12, 0x12);
 
-QColor randomColor(QRandomGenerator &random)
-{
-    return {random.bounded(256), random.bounded(256), random.bounded(256)};
-}
-
-Demands randomDemands(QRandomGenerator &random)
-{
-    constexpr double ratios[] = {1.5, 2, 3, 4.5, 7};
-    Demands demands(1 + random.bounded(3));
-    for (ContrastDemand &demand : demands) {
-        demand = {randomColor(random), ratios[random.bounded(5)]};
-    }
-    return demands;
-}
-
-bool isMetByColor(const QColor &color, const Demands &demands)
-{
-    return std::all_of(demands.cbegin(), demands.cend(), [&](const ContrastDemand &demand) {
-        return contrastRatio(color, demand.ground) >= demand.ratio;
-    });
-}
-
-QVector<QColor> greys()
-{
-    QVector<QColor> all;
-    for (int value = 0; value <= 255; ++value) {
-        all.append(QColor(value, value, value));
-    }
-    return all;
-}
-
-bool isMetBySomeGrey(const Demands &demands)
-{
-    static const QVector<QColor> all = greys();
-    return std::any_of(all.cbegin(), all.cend(),
-                       [&](const QColor &grey) { return isMetByColor(grey, demands); });
-}
-
-double smallestShare(const QColor &color, const Demands &demands)
-{
-    double share = 1;
-    for (const ContrastDemand &demand : demands) {
-        share = qMin(share, contrastRatio(color, demand.ground) / demand.ratio);
-    }
-    return share;
-}
-
-// Returns the tones of the hue and chroma of a colour, closely spaced.
-QVector<QColor> tonesOf(const Oklch &wanted)
-{
-    constexpr int count = 2000;
-    QVector<QColor> tones;
-    for (int i = 0; i <= count; ++i) {
-        tones.append(toColor({double(i) / count, wanted.chroma, wanted.hue}));
-    }
-    return tones;
-}
-
 double lightnessDistance(const QColor &first, const QColor &second)
 {
     return qAbs(toOklch(first).lightness - toOklch(second).lightness);
-}
-
-QByteArray described(const QColor &wanted, const Demands &demands)
-{
-    QByteArray text = wanted.name().toLatin1();
-    for (const ContrastDemand &demand : demands) {
-        text += ", " + QByteArray::number(demand.ratio) + " on " + demand.ground.name().toLatin1();
-    }
-    return text;
 }
 
 } // namespace
@@ -119,9 +48,6 @@ private Q_SLOTS:
     void hueStays();
     void gapOfOneGreyIsFound();
     void limitItselfIsLegible();
-    void impossibleDemandsGetTheBestCompromise();
-    void impossibleDemandsOfManyColors();
-    void compromiseKeepsTheHue();
     void alphaAndPrecisionAreLeftOut();
     void invalidColorsAreBlack();
     void ratioThatIsNoNumberIsNeverMet();
@@ -297,48 +223,6 @@ void LegibleToneTest::limitItselfIsLegible()
     QCOMPARE(legibleTone(QColor(80, 90, 200), {{Qt::white, 21}}), QColor(Qt::black));
     // The lightest grey that is legible on white.
     QCOMPARE(legibleTone(QColor(0xC0, 0xC0, 0xC0), {{Qt::white, 4.5}}), QColor(0x76, 0x76, 0x76));
-}
-
-void LegibleToneTest::impossibleDemandsGetTheBestCompromise()
-{
-    // No colour has a contrast of 7 on a middle grey: one end is all there is.
-    QCOMPARE(legibleTone(QColor(61, 143, 209), {{QColor(0x70, 0x70, 0x70), 7}}), QColor(Qt::white));
-    QCOMPARE(legibleTone(QColor(61, 143, 209), {{QColor(0x80, 0x80, 0x80), 7}}), QColor(Qt::black));
-
-    // Between black and white there is 4.58 for both.
-    const Demands demands = {{Qt::black, 7}, {Qt::white, 7}};
-    const QColor tone = legibleTone(QColor(61, 143, 209), demands);
-    QVERIFY(contrastRatio(tone, Qt::black) > 4.52);
-    QVERIFY(contrastRatio(tone, Qt::white) > 4.52);
-}
-
-void LegibleToneTest::impossibleDemandsOfManyColors()
-{
-    QRandomGenerator random(6);
-    int impossible = 0;
-    while (impossible < 200) {
-        const QColor wanted = randomColor(random);
-        const Demands demands = randomDemands(random);
-        if (isMetBySomeGrey(demands)) {
-            continue;
-        }
-        ++impossible;
-        double best = 0;
-        for (const QColor &tone : tonesOf(toOklch(wanted)) + greys()) {
-            best = qMax(best, smallestShare(tone, demands));
-        }
-        // Two steps of 8 bits may tie; they differ by less than a hundredth.
-        QVERIFY2(smallestShare(legibleTone(wanted, demands), demands) > best - 0.01,
-                 described(wanted, demands));
-    }
-}
-
-void LegibleToneTest::compromiseKeepsTheHue()
-{
-    const QColor wanted(61, 143, 209);
-    const Oklch tone = toOklch(legibleTone(wanted, {{Qt::black, 7}, {Qt::white, 7}}));
-    QVERIFY(qAbs(tone.hue - toOklch(wanted).hue) < 3);
-    QVERIFY(tone.chroma > 0.1);
 }
 
 void LegibleToneTest::alphaAndPrecisionAreLeftOut()

@@ -33,6 +33,75 @@ QString problemOf(const QStringList &arguments)
     return notice && notice->kind == Notice::Kind::Problem ? notice->text : QString();
 }
 
+void addMistake(const char *line, const char *culprit, const char *help)
+{
+    QTest::newRow(line) << QString::fromUtf8(line) << QString::fromUtf8(culprit)
+                        << QString::fromUtf8(help);
+}
+
+void addMistakesOfWords()
+{
+    addMistake("chek a", "'chek'", "'check'");
+    addMistake("frobnicate", "'frobnicate'",
+               "check, new, build, preview, diff, import and completion");
+    addMistake("--verison", "'--verison'", "'--version'");
+    addMistake("--format json check a", "'--format'", "behind");
+}
+
+void addMistakesOfCheck()
+{
+    addMistake("check --fromat json a", "check: unknown option '--fromat'", "'--format'");
+    addMistake("check --version a", "'--version'", "--format, --rule, --all, -h and --help");
+    addMistake("check -x a", "'-x'", "--all");
+    addMistake("check", "DIR is missing", "mox-theme check [options] DIR...");
+    addMistake("check a --format jason", "'jason'", "text, json, sarif or github");
+    addMistake("check a --format", "'--format'", "text|json|sarif|github");
+    addMistake("check a --format --all", "'--format' needs a value", "text|json|sarif|github");
+    addMistake("check --format= a", "'--format' needs a value", "text|json|sarif|github");
+    addMistake("check a --all=yes", "'--all'", "no value");
+    addMistake("check a --format text --format json", "'--format'", "twice");
+    addMistake("check a --rule low-contrst=off", "'low-contrst'", "'low-contrast'");
+    addMistake("check a --rule nonsense=off", "'nonsense'", "low-contrast, missing-file,");
+    addMistake("check a --rule low-contrast", "'low-contrast'", "low-contrast=off|warn|error");
+    addMistake("check a --rule low-contrast=", "low-contrast", "off, warn or error");
+    addMistake("check a --rule low-contrast=warning", "'warning'", "off, warn or error");
+    addMistake("check a --rule =off", "''", "the rules are");
+}
+
+void addMistakesOfNew()
+{
+    addMistake("new --accent red", "NAME is missing", "--accent COLOUR NAME");
+    addMistake("new A", "--accent is missing", "--accent COLOUR NAME");
+    addMistake("new A B --accent red", "'B'", "--accent COLOUR NAME");
+    addMistake("new A --accent red --base dusky", "'dusky'", "dark, light or high-contrast");
+    addMistake("new A --accent reddish", "'reddish'", "#rrggbb");
+    addMistake("new A --accent #12", "'#12'", "#rrggbb");
+    addMistake("new A --accent #80ff0000", "'#80ff0000'", "not opaque");
+    addMistake("new A --accent transparent", "'transparent'", "not opaque");
+    addMistake("new a/b --accent red", "'a/b'", "'/'");
+    addMistake("new . --accent red", "'.'", "begins with '.'");
+    addMistake("new .. --accent red", "'..'", "begins with '.'");
+    addMistake("new .A --accent red", "'.A'", "begins with '.'");
+    addMistake("new --accent red -- -A", "'-A'", "begins with '-'");
+    addMistake("new A\tB --accent red", "'A\tB'", "control character");
+}
+
+void addMistakesOfOthers()
+{
+    addMistake("build a.toml", "--out is missing", "--out DIR TOKENS");
+    addMistake("build --out A", "TOKENS is missing", "--out DIR TOKENS");
+    addMistake("preview", "DIR is missing", "preview [options] DIR");
+    addMistake("preview A B", "'B'", "preview [options] DIR");
+    addMistake("diff", "A and B are missing", "diff [options] A B");
+    addMistake("diff a", "B is missing", "diff [options] A B");
+    addMistake("diff a b c", "'c'", "diff [options] A B");
+    addMistake("diff a b --format sarif", "'sarif'", "text or json");
+    addMistake("import", "FILE is missing", "import [options] FILE");
+    addMistake("import a --name b/c", "'b/c'", "'/'");
+    addMistake("completion", "missing", "bash|zsh|fish");
+    addMistake("completion tcsh", "'tcsh'", "bash, zsh and fish");
+}
+
 } // namespace
 
 class ToolCommandLineTest : public QObject
@@ -246,56 +315,10 @@ void ToolCommandLineTest::mistakesAreNamed_data()
     QTest::addColumn<QString>("line");
     QTest::addColumn<QString>("culprit");
     QTest::addColumn<QString>("help");
-    const auto row = [](const char *line, const char *culprit, const char *help) {
-        QTest::newRow(line) << QString::fromUtf8(line) << QString::fromUtf8(culprit)
-                            << QString::fromUtf8(help);
-    };
-    row("chek a", "'chek'", "'check'");
-    row("frobnicate", "'frobnicate'", "check, new, build, preview, diff, import and completion");
-    row("--verison", "'--verison'", "'--version'");
-    row("--format json check a", "'--format'", "behind");
-    row("check --fromat json a", "check: unknown option '--fromat'", "'--format'");
-    row("check --version a", "'--version'", "--format, --rule, --all, -h and --help");
-    row("check -x a", "'-x'", "--all");
-    row("check", "DIR is missing", "mox-theme check [options] DIR...");
-    row("check a --format jason", "'jason'", "text, json, sarif or github");
-    row("check a --format", "'--format'", "text|json|sarif|github");
-    row("check a --format --all", "'--format' needs a value", "text|json|sarif|github");
-    row("check --format= a", "'--format' needs a value", "text|json|sarif|github");
-    row("check a --all=yes", "'--all'", "no value");
-    row("check a --format text --format json", "'--format'", "twice");
-    row("check a --rule low-contrst=off", "'low-contrst'", "'low-contrast'");
-    row("check a --rule nonsense=off", "'nonsense'", "low-contrast, missing-file,");
-    row("check a --rule low-contrast", "'low-contrast'", "low-contrast=off|warn|error");
-    row("check a --rule low-contrast=", "low-contrast", "off, warn or error");
-    row("check a --rule low-contrast=warning", "'warning'", "off, warn or error");
-    row("check a --rule =off", "''", "the rules are");
-    row("new --accent red", "NAME is missing", "--accent COLOUR NAME");
-    row("new A", "--accent is missing", "--accent COLOUR NAME");
-    row("new A B --accent red", "'B'", "--accent COLOUR NAME");
-    row("new A --accent red --base dusky", "'dusky'", "dark, light or high-contrast");
-    row("new A --accent reddish", "'reddish'", "#rrggbb");
-    row("new A --accent #12", "'#12'", "#rrggbb");
-    row("new A --accent #80ff0000", "'#80ff0000'", "not opaque");
-    row("new A --accent transparent", "'transparent'", "not opaque");
-    row("new a/b --accent red", "'a/b'", "'/'");
-    row("new . --accent red", "'.'", "begins with '.'");
-    row("new .. --accent red", "'..'", "begins with '.'");
-    row("new .A --accent red", "'.A'", "begins with '.'");
-    row("new --accent red -- -A", "'-A'", "begins with '-'");
-    row("new A\tB --accent red", "'A\tB'", "control character");
-    row("build a.toml", "--out is missing", "--out DIR TOKENS");
-    row("build --out A", "TOKENS is missing", "--out DIR TOKENS");
-    row("preview", "DIR is missing", "preview [options] DIR");
-    row("preview A B", "'B'", "preview [options] DIR");
-    row("diff", "A and B are missing", "diff [options] A B");
-    row("diff a", "B is missing", "diff [options] A B");
-    row("diff a b c", "'c'", "diff [options] A B");
-    row("diff a b --format sarif", "'sarif'", "text or json");
-    row("import", "FILE is missing", "import [options] FILE");
-    row("import a --name b/c", "'b/c'", "'/'");
-    row("completion", "missing", "bash|zsh|fish");
-    row("completion tcsh", "'tcsh'", "bash, zsh and fish");
+    addMistakesOfWords();
+    addMistakesOfCheck();
+    addMistakesOfNew();
+    addMistakesOfOthers();
 }
 
 void ToolCommandLineTest::mistakesAreNamed()

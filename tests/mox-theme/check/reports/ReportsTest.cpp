@@ -1,12 +1,11 @@
 #include <QtCore/QDir>
-#include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QtTest>
 
-#include <check/model/RuleTable.h>
 #include <check/reports/Reports.h>
+#include <mox-theme/support/FindingSamples.h>
 #include <mox-theme/support/JsonSchema.h>
 #include <support/Text.h>
 
@@ -14,78 +13,7 @@ using namespace TARN::ThemeTool;
 
 Q_DECLARE_METATYPE(TARN::ThemeTool::ReportFormat)
 
-namespace {
-
-const QString strangeFile = QString::fromUtf8("thèmes/My Theme: 50%, #1/config.xml");
-
-Finding finding(const char *rule, Severity severity, const QString &file, int line = 0,
-                int column = 0)
-{
-    Finding finding;
-    finding.rule = text(rule);
-    finding.severity = severity;
-    finding.file = file;
-    finding.line = line;
-    finding.column = column;
-    finding.text = text("Something is wrong");
-    return finding;
-}
-
-Finding suggesting(Finding finding, const QString &suggestion)
-{
-    finding.suggestion = suggestion;
-    return finding;
-}
-
-/// Findings of every shape: with and without a position and a suggestion, below the current folder
-/// and elsewhere, under a strange path.
-QVector<Finding> everyShape()
-{
-    return {
-        finding("low-contrast", Severity::Error, strangeFile, 12, 5),
-        suggesting(finding("unused-entry", Severity::Warning, strangeFile, 3),
-                   QString::fromUtf8("Remove “it”\nor\tuse it")),
-        finding("missing-file", Severity::Error, QDir::current().absoluteFilePath(text("Dark"))),
-        finding("missing-name", Severity::Error, text("/else where/theme.xml"), 2, 1),
-        finding("internal-value", Severity::Warning, text("../Light/config.xml"), 7, 70000),
-    };
-}
-
-QJsonObject jsonReport(const QVector<Finding> &findings, ReportFormat format)
-{
-    QJsonParseError error{};
-    const QByteArray document = report(findings, format).toUtf8();
-    const QJsonObject object = QJsonDocument::fromJson(document, &error).object();
-    return error.error == QJsonParseError::NoError ? object : QJsonObject();
-}
-
-QJsonObject sarifRun(const QVector<Finding> &findings)
-{
-    return jsonReport(findings, ReportFormat::Sarif)[text("runs")].toArray()[0].toObject();
-}
-
-QJsonObject sarifResult(const Finding &finding)
-{
-    return sarifRun({finding})[text("results")].toArray()[0].toObject();
-}
-
-QJsonObject sarifLocation(const Finding &finding)
-{
-    return sarifResult(finding)[text("locations")]
-        .toArray()[0]
-        .toObject()[text("physicalLocation")]
-        .toObject();
-}
-
-QJsonObject artifact(const QString &file)
-{
-    return sarifLocation(finding("low-contrast", Severity::Error, file))[text("artifactLocation")]
-        .toObject();
-}
-
-} // namespace
-
-/// What findings look like in each format.
+/// What findings look like for people, for programs and as annotations of a change.
 class ReportsTest : public QObject
 {
     Q_OBJECT
@@ -105,16 +33,6 @@ private Q_SLOTS:
     void jsonFitsItsSchema_data();
     void jsonFitsItsSchema();
 
-    void sarifFitsTheStandard_data();
-    void sarifFitsTheStandard();
-    void sarifDescribesEveryRule();
-    void sarifResultsReferToTheirRules();
-    void sarifMessagesAreSentences();
-    void sarifPlaces_data();
-    void sarifPlaces();
-    void sarifPositionsAreThoseKnown();
-    void theStandardIsStrict();
-
     void githubAnnotatesLines();
     void githubEscapes();
     void githubSaysNothingWithoutFindings();
@@ -131,16 +49,16 @@ void ReportsTest::initTestCase()
 void ReportsTest::textHasOneLinePerFinding()
 {
     const QVector<Finding> findings{
-        suggesting(finding("low-contrast", Severity::Error, strangeFile, 12, 5),
+        suggesting(finding("low-contrast", Severity::Error, strangeFile(), 12, 5),
                    text("Lighten it")),
-        finding("unused-entry", Severity::Warning, strangeFile, 13),
-        finding("missing-file", Severity::Error, strangeFile),
+        finding("unused-entry", Severity::Warning, strangeFile(), 13),
+        finding("missing-file", Severity::Error, strangeFile()),
     };
     const QString expected =
-        strangeFile +
+        strangeFile() +
         text(":12:5: error: Something is wrong [low-contrast]\n"
              "    Lighten it\n") +
-        strangeFile + text(":13: warning: Something is wrong [unused-entry]\n") + strangeFile +
+        strangeFile() + text(":13: warning: Something is wrong [unused-entry]\n") + strangeFile() +
         text(": error: Something is wrong [missing-file]\n"
              "\n"
              "2 errors, 1 warning in 1 theme\n");
@@ -230,7 +148,7 @@ void ReportsTest::whatIsOffIsLeftOut()
 void ReportsTest::jsonHoldsEverything()
 {
     const QVector<Finding> findings{
-        suggesting(finding("low-contrast", Severity::Error, strangeFile, 12, 5),
+        suggesting(finding("low-contrast", Severity::Error, strangeFile(), 12, 5),
                    QString::fromUtf8("Use “it”\n")),
         finding("unused-entry", Severity::Warning, text("/else where/a")),
     };
@@ -271,121 +189,6 @@ void ReportsTest::jsonFitsItsSchema()
     QCOMPARE(schemaProblem(document, text(MOX_REPORT_SCHEMA)), QString());
 }
 
-void ReportsTest::sarifFitsTheStandard_data()
-{
-    jsonFitsItsSchema_data();
-}
-
-void ReportsTest::sarifFitsTheStandard()
-{
-    QFETCH(bool, empty);
-
-    const QVector<Finding> findings = empty ? QVector<Finding>() : everyShape();
-    QCOMPARE(sarifRun(findings)[text("results")].toArray().size(), findings.size());
-    const QByteArray document = report(findings, ReportFormat::Sarif).toUtf8();
-    QCOMPARE(schemaProblem(document, text(MOX_SARIF_SCHEMA)), QString());
-}
-
-void ReportsTest::sarifDescribesEveryRule()
-{
-    const QJsonObject driver = sarifRun({})[text("tool")].toObject()[text("driver")].toObject();
-    const QJsonArray described = driver[text("rules")].toArray();
-    QCOMPARE(described.size(), rules().size());
-    for (int i = 0; i < described.size(); ++i) {
-        const QJsonObject rule = described[i].toObject();
-        QCOMPARE(rule[text("id")].toString(), rules()[i].name);
-        const QString level =
-            rule[text("defaultConfiguration")].toObject()[text("level")].toString();
-        QCOMPARE(level == text("error"), rules()[i].severity == Severity::Error);
-        QCOMPARE(level == text("warning"), rules()[i].severity == Severity::Warning);
-    }
-}
-
-void ReportsTest::sarifResultsReferToTheirRules()
-{
-    for (const Rule &rule : rules()) {
-        Finding found = finding("", Severity::Warning, text("a"));
-        found.rule = rule.name;
-        const QJsonObject result = sarifResult(found);
-        QCOMPARE(result[text("ruleId")].toString(), rule.name);
-        QCOMPARE(rules().value(result[text("ruleIndex")].toInt(-1)).name, rule.name);
-        QCOMPARE(result[text("level")].toString(), text("warning"));
-    }
-    const Finding unknown = finding("made-up", Severity::Error, text("a"));
-    QVERIFY(!sarifResult(unknown).contains(text("ruleIndex")));
-}
-
-void ReportsTest::sarifMessagesAreSentences()
-{
-    const auto message = [](const Finding &finding) {
-        return sarifResult(finding)[text("message")].toObject()[text("text")].toString();
-    };
-    const Finding plain = finding("low-contrast", Severity::Error, text("a"));
-    QCOMPARE(message(plain), text("Something is wrong."));
-    QCOMPARE(message(suggesting(plain, text("Lighten it"))),
-             text("Something is wrong. Lighten it."));
-}
-
-void ReportsTest::sarifPlaces_data()
-{
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<QString>("uri");
-    QTest::addColumn<bool>("isRelative");
-
-    QTest::newRow("below") << text("Dark/config.xml") << text("Dark/config.xml") << true;
-    QTest::newRow("below, absolute")
-        << m_directory.filePath(text("Dark/config.xml")) << text("Dark/config.xml") << true;
-    QTest::newRow("below, roundabout")
-        << text("./Light/../Dark/config.xml") << text("Dark/config.xml") << true;
-    QTest::newRow("strange") << strangeFile
-                             << text("th%C3%A8mes/My%20Theme%3A%2050%25%2C%20%231/config.xml")
-                             << true;
-    QTest::newRow("as if with a scheme") << text("a:b/c") << text("a%3Ab/c") << true;
-    QTest::newRow("dots that do not lead up") << text("..a/b") << text("..a/b") << true;
-    QTest::newRow("elsewhere") << QString::fromUtf8("/else where/ü 5%/a#1")
-                               << text("file:///else%20where/%C3%BC%205%25/a%231") << false;
-    const QString parent = QFileInfo(m_directory.path()).absolutePath();
-    QTest::newRow("above") << text("../Dark/a b") << text("file://") + parent + text("/Dark/a%20b")
-                           << false;
-}
-
-void ReportsTest::sarifPlaces()
-{
-    QFETCH(QString, file);
-    QFETCH(QString, uri);
-    QFETCH(bool, isRelative);
-
-    const QJsonObject place = artifact(file);
-    QCOMPARE(place[text("uri")].toString(), uri);
-    QCOMPARE(place.contains(text("uriBaseId")), isRelative);
-}
-
-void ReportsTest::sarifPositionsAreThoseKnown()
-{
-    const auto region = [](int line, int column) {
-        return sarifLocation(finding("low-contrast", Severity::Error, text("a"), line, column))
-            .value(text("region"));
-    };
-    QVERIFY(region(0, 0).isUndefined());
-    QCOMPARE(region(4, 0).toObject(), (QJsonObject{{text("startLine"), 4}}));
-    QCOMPARE(region(4, 9).toObject(),
-             (QJsonObject{{text("startLine"), 4}, {text("startColumn"), 9}}));
-}
-
-void ReportsTest::theStandardIsStrict()
-{
-    const QString log = report(everyShape(), ReportFormat::Sarif);
-    const auto problem = [&log](const char *before, const char *after) {
-        QString altered = log;
-        altered.replace(text(before), text(after));
-        return altered == log ? QString() : schemaProblem(altered.toUtf8(), text(MOX_SARIF_SCHEMA));
-    };
-    QVERIFY(!problem("\"2.1.0\"", "\"2.0.0\"").isEmpty());
-    QVERIFY(!problem("\"startLine\": 12", "\"startLine\": 0").isEmpty());
-    QVERIFY(!problem("\"ruleId\"", "\"rule\"").isEmpty());
-    QVERIFY(!problem("My%20Theme", "My Theme").isEmpty());
-}
-
 void ReportsTest::githubAnnotatesLines()
 {
     const QVector<Finding> findings{
@@ -403,7 +206,7 @@ void ReportsTest::githubAnnotatesLines()
 
 void ReportsTest::githubEscapes()
 {
-    Finding strange = finding("low-contrast", Severity::Error, strangeFile, 1);
+    Finding strange = finding("low-contrast", Severity::Error, strangeFile(), 1);
     strange.text = QString::fromUtf8("“50%”, 1:2\r\n::error::no");
     strange.suggestion = text("Use %0A");
     QCOMPARE(report({strange}, ReportFormat::Github),

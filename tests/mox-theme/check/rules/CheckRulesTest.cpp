@@ -78,7 +78,6 @@ private:
     static void addBrushRows()
     {
         const QByteArray brush = R"(<SolidBrush name="ListBorderBrush">Black</SolidBrush>)";
-        const QByteArray gradient = R"(<LinearGradientBrush name="ListBorderBrush" )";
         add("brush of an unknown color", config, brush,
             R"(<SolidBrush name="ListBorderBrush">Blakc</SolidBrush>)", "unknown-color",
             R"(<SolidBrush name="ListBorderBrush">)", R"(no colour "Blakc"; the )", "Black");
@@ -95,6 +94,15 @@ private:
             brush + R"(<SolidBrush  name="ListBorderBrush">Black)"
                     "</SolidBrush>",
             "duplicate-entry", "<SolidBrush  ", "defined before", "Remove");
+        add("unused brush", config, brush,
+            brush + R"(<SolidBrush name="ListBorderBrsh">Black</SolidBrush>)", "unused-entry",
+            R"(<SolidBrush name="ListBorderBrsh">)", R"("ListBorderBrsh")");
+    }
+
+    static void addGradientRows()
+    {
+        const QByteArray brush = R"(<SolidBrush name="ListBorderBrush">Black</SolidBrush>)";
+        const QByteArray gradient = R"(<LinearGradientBrush name="ListBorderBrush" )";
         add("gradient without points", config, brush, gradient + "/>", "faulty-entry", gradient,
             R"(no attribute "startPoint"; the )", "0,1");
         add("gradient of a bad point", config, brush,
@@ -122,9 +130,6 @@ private:
             "invalid-number", "<GradientStop", R"("1.5")");
         add("gradient of an unknown element", config, brush, sound + "<Stop/>" + end,
             "unknown-section", "<Stop/>", R"("Stop")");
-        add("unused brush", config, brush,
-            brush + R"(<SolidBrush name="ListBorderBrsh">Black</SolidBrush>)", "unused-entry",
-            R"(<SolidBrush name="ListBorderBrsh">)", R"("ListBorderBrsh")");
     }
 
     static void addValueRows()
@@ -244,6 +249,7 @@ private Q_SLOTS:
         QTest::addColumn<QString>("suggestion");
         addColorRows();
         addBrushRows();
+        addGradientRows();
         addValueRows();
         addSectionRows();
         addPaletteRows();

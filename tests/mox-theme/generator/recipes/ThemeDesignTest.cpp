@@ -1,18 +1,15 @@
 #include <catalogue/Catalogue.h>
 #include <catalogue/Words.h>
 
-#include <QtCore/QRandomGenerator>
 #include <QtTest/QtTest>
 
 #include <color/Oklch.h>
 #include <generator/recipes/ThemeDefinition.h>
 #include <mox-theme/support/DefinedColors.h>
-#include <mox-theme/support/SimulatedVision.h>
+#include <mox-theme/support/SampleTokens.h>
 
 using namespace TARN;
 using namespace TARN::ThemeTool;
-
-Q_DECLARE_METATYPE(TARN::ThemeTool::Tokens)
 
 namespace {
 
@@ -29,10 +26,6 @@ constexpr double faceStep = 0.03;
 constexpr double lineStep = 0.1;
 // An error must be seen without looking for it.
 constexpr double errorStep = 0.15;
-// Status colours and the accent stand alone, and a user has to recognise them.
-constexpr double statusStep = 0.06;
-// Neighbouring series touch.
-constexpr double seriesStep = 0.05;
 // Of the distance from its face, disabled text keeps so much at most.
 constexpr double mostOfDisabledText = 0.8;
 
@@ -132,52 +125,6 @@ private:
     QStringList m_alike;
 };
 
-Tokens shipped(const char *name)
-{
-    Tokens tokens;
-    const QString path = QStringLiteral(MOX_TOKENS "/%1.toml").arg(QString::fromLatin1(name));
-    const TokenProblem problem = readTokens(path, tokens);
-    if (!problem.text.isEmpty()) {
-        qFatal("%s: %s", qPrintable(path), qPrintable(problem.text));
-    }
-    return tokens;
-}
-
-Tokens tokensOf(Base base, const QColor &accent)
-{
-    Tokens tokens;
-    tokens.name = QStringLiteral("Sample");
-    tokens.base = base;
-    tokens.accent = accent;
-    return tokens;
-}
-
-void addShippedRows()
-{
-    QTest::addColumn<Tokens>("tokens");
-    for (const char *name : {"Dark", "Light", "HighContrast"}) {
-        QTest::newRow(name) << shipped(name);
-    }
-}
-
-/// Adds the shipped themes, and some of accents that nobody has looked at.
-void addManyRows()
-{
-    addShippedRows();
-    QVector<QColor> accents{Qt::white, Qt::black, Qt::gray, Qt::red, Qt::yellow, Qt::blue};
-    QRandomGenerator random(1);
-    for (int i = 0; i < 20; ++i) {
-        accents += QColor::fromRgb(random.generate());
-    }
-    const std::pair<const char *, Base> bases[] = {
-        {"dark", Base::Dark}, {"light", Base::Light}, {"high contrast", Base::HighContrast}};
-    for (const QColor &accent : accents) {
-        for (const auto &[name, base] : bases) {
-            QTest::addRow("%s, %s", name, qPrintable(accent.name())) << tokensOf(base, accent);
-        }
-    }
-}
-
 /// Returns what is wrong with the steps between \a names, from the darkest to the lightest.
 QString unclearSteps(const DefinedColors &colors, const QStringList &names, double step)
 {
@@ -200,41 +147,10 @@ QStringList words(const char *text)
     return QString::fromLatin1(text).split(u' ');
 }
 
-/// Returns which two of \a names look alike in some vision.
-QString alikeInSomeVision(const DefinedColors &colors, const QString &one, const QString &other,
-                          double step)
-{
-    QString alike;
-    for (const Vision &vision : visions()) {
-        const double distance =
-            colorDistance(seenBy(vision, colors.seen(one)), seenBy(vision, colors.seen(other)));
-        if (distance < step) {
-            alike += QStringLiteral("%1 and %2, %3: %4; ")
-                         .arg(one, other, QString::fromLatin1(vision.name))
-                         .arg(distance, 0, 'f', 3);
-        }
-    }
-    return alike;
-}
-
-QString alikeAmong(const DefinedColors &colors, const QStringList &names, double step)
-{
-    QString alike;
-    for (int i = 0; i < names.size(); ++i) {
-        for (int j = 0; j < i; ++j) {
-            alike += alikeInSomeVision(colors, names.at(j), names.at(i), step);
-        }
-    }
-    return alike;
-}
-
 bool isStatus(const QString &kind)
 {
     return words("Success Warning Danger Info").contains(kind);
 }
-
-const char statusColors[] =
-    "StatusSuccessColor StatusWarningColor StatusDangerColor StatusInfoColor";
 
 } // namespace
 
@@ -256,13 +172,6 @@ private Q_SLOTS:
     void surfacesAreSteps();
     void errorsStandOut_data() { addShippedRows(); }
     void errorsStandOut();
-    void everyVisionKeepsGreys();
-    void statusColorsDifferInEveryVision_data() { addManyRows(); }
-    void statusColorsDifferInEveryVision();
-    void accentIsNoStatusInAnyVision_data() { addShippedRows(); }
-    void accentIsNoStatusInAnyVision();
-    void seriesDifferInEveryVision_data() { addManyRows(); }
-    void seriesDifferInEveryVision();
 };
 
 void ThemeDesignTest::buttonStatesDiffer()
@@ -383,47 +292,6 @@ void ThemeDesignTest::errorsStandOut()
         const double distance =
             colorDistance(colors.seen(QStringLiteral("StatusDangerColor")), colors.seen(outline));
         QVERIFY2(distance >= errorStep, qPrintable(outline));
-    }
-}
-
-void ThemeDesignTest::everyVisionKeepsGreys()
-{
-    for (const Vision &vision : visions()) {
-        for (const int grey : {0, 1, 60, 128, 254, 255}) {
-            QCOMPARE(seenBy(vision, QColor(grey, grey, grey)).rgb(), qRgb(grey, grey, grey));
-        }
-    }
-}
-
-void ThemeDesignTest::statusColorsDifferInEveryVision()
-{
-    QFETCH(const Tokens, tokens);
-    const DefinedColors colors(defineTheme(tokens));
-    QCOMPARE(alikeAmong(colors, words(statusColors), statusStep), QString());
-}
-
-/// See errorsStandOut() for why only the shipped themes.
-void ThemeDesignTest::accentIsNoStatusInAnyVision()
-{
-    QFETCH(const Tokens, tokens);
-    const DefinedColors colors(defineTheme(tokens));
-    for (const QString &status : words(statusColors)) {
-        QCOMPARE(alikeInSomeVision(colors, QStringLiteral("MainColor"), status, statusStep),
-                 QString());
-    }
-}
-
-void ThemeDesignTest::seriesDifferInEveryVision()
-{
-    QFETCH(const Tokens, tokens);
-    const DefinedColors colors(defineTheme(tokens));
-    constexpr int seriesCount = 11;
-    const auto series = [](int number) {
-        return QStringLiteral("Series%1Color").arg(number, 2, 10, QLatin1Char('0'));
-    };
-    for (int number = 1; number < seriesCount; ++number) {
-        QCOMPARE(alikeInSomeVision(colors, series(number), series(number + 1), seriesStep),
-                 QString());
     }
 }
 
