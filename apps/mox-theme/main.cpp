@@ -1,5 +1,6 @@
 #include "command_line/CommandLine.h"
 #include "command_line/Terminal.h"
+#include "commands/Commands.h"
 #include "text/Literals.h"
 
 #include <QtCore/QDir>

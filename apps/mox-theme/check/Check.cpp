@@ -1,10 +1,10 @@
 #include "check/Check.h"
 
-#include "check/model/PaletteMapping.h"
 #include "check/rules/ConfigurationRules.h"
 #include "check/rules/ContrastRules.h"
 #include "check/rules/ImageRules.h"
 #include "check/rules/NameRules.h"
+#include "check/rules/PaletteRules.h"
 #include "check/rules/StyleSheetRules.h"
 #include "text/Literals.h"
 

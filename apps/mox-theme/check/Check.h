@@ -1,17 +1,9 @@
 #pragma once
 
+#include "check/model/CheckSettings.h"
 #include "check/model/Finding.h"
 
-#include <QtCore/QMap>
-
 namespace TARN::ThemeTool {
-
-/// How a theme is checked.
-struct CheckSettings
-{
-    QMap<QString, Severity> rules; ///< by name; the others keep their severity
-    bool all = false;              ///< one finding for each missing variable, not for each family
-};
 
 /// Checks the theme in the folder \a directory and returns what is wrong with it, file by file in
 /// the order of the files' lines. Needs a QGuiApplication.

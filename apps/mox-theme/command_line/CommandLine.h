@@ -1,6 +1,6 @@
 #pragma once
 
-#include "commands/Commands.h"
+#include "command_line/Options.h"
 
 #include <QtCore/QStringList>
 #include <QtCore/QVector>

@@ -3,7 +3,6 @@
 #include "command_line/CommandTable.h"
 
 #include "check/model/RuleTable.h"
-#include "commands/Keywords.h"
 #include "text/Literals.h"
 
 namespace TARN::ThemeTool {

@@ -1,7 +1,6 @@
 #include "command_line/Help.h"
 
 #include "check/model/RuleTable.h"
-#include "commands/Keywords.h"
 #include "text/Literals.h"
 
 #include <algorithm>
@@ -81,11 +80,7 @@ QVector<Row> ruleRows()
 {
     QVector<Row> rows;
     for (const Rule &rule : rules()) {
-        for (const Keyword<Severity> &keyword : keywords<Severity>()) {
-            if (keyword.choice == rule.severity) {
-                rows.append({rule.name + "="_s + keyword.word, rule.description});
-            }
-        }
+        rows.append({rule.name + "="_s + toKeyword(rule.severity), rule.description});
     }
     return rows;
 }

@@ -2,7 +2,6 @@
 
 #include "check/model/RuleTable.h"
 #include "command_line/Help.h"
-#include "commands/Keywords.h"
 #include "generator/tokens/ThemeName.h"
 #include "text/DidYouMean.h"
 #include "text/Literals.h"

@@ -1,6 +1,6 @@
 #include "command_line/Terminal.h"
 
-#include "commands/Commands.h"
+#include "command_line/ExitCode.h"
 #include "text/Literals.h"
 
 #include <QtGui/QColor>

@@ -1,6 +1,7 @@
 #include "check/Check.h"
 #include "check/reports/Reports.h"
 #include "command_line/Terminal.h"
+#include "commands/Commands.h"
 
 #include <algorithm>
 

@@ -1,4 +1,5 @@
 #include "command_line/Terminal.h"
+#include "commands/Commands.h"
 #include "compare/DiffReports.h"
 
 namespace TARN::ThemeTool {
@@ -32,8 +33,9 @@ int runCommand(const DiffOptions &options)
         return CannotRun;
     }
     const Differences found = differences(before, after);
-    print(options.format == ReportFormat::Json ? DiffReports::json(found, options)
-                                               : DiffReports::text(found));
+    print(options.format == ReportFormat::Json
+              ? DiffReports::json(found, options.before, options.after)
+              : DiffReports::text(found));
     return found.sections.isEmpty() ? Fine : Findings;
 }
 

@@ -68,7 +68,7 @@ QJsonObject object(const ContrastChange &change)
 
 } // namespace
 
-QString json(const Differences &differences, const DiffOptions &options)
+QString json(const Differences &differences, const QString &before, const QString &after)
 {
     QJsonArray changes;
     for (const ChangeSection &section : differences.sections) {
@@ -81,8 +81,8 @@ QString json(const Differences &differences, const DiffOptions &options)
         contrasts.append(object(change));
     }
     const QJsonObject report{{"version"_s, formatVersion},
-                             {"before"_s, options.before},
-                             {"after"_s, options.after},
+                             {"before"_s, before},
+                             {"after"_s, after},
                              {"changes"_s, changes},
                              {"contrasts"_s, contrasts}};
     return QString::fromUtf8(QJsonDocument(report).toJson());

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "commands/Commands.h"
 #include "compare/Differences.h"
 
 namespace TARN::ThemeTool::DiffReports {
@@ -8,8 +7,8 @@ namespace TARN::ThemeTool::DiffReports {
 /// Returns \a differences for people: a line each under the headings of their sections.
 QString text(const Differences &differences);
 
-/// Returns \a differences between the themes that \a options name as a JSON document; see
-/// diff.schema.json.
-QString json(const Differences &differences, const DiffOptions &options);
+/// Returns \a differences between the themes in the folders \a before and \a after as a JSON
+/// document; see diff.schema.json.
+QString json(const Differences &differences, const QString &before, const QString &after);
 
 } // namespace TARN::ThemeTool::DiffReports

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "commands/Commands.h"
+#include "check/model/Severity.h"
 
 #include <QtCore/QString>
 #include <QtCore/QVector>

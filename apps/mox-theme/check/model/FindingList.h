@@ -1,6 +1,7 @@
 #pragma once
 
-#include "check/Check.h"
+#include "check/model/CheckSettings.h"
+#include "check/model/Finding.h"
 #include "check/model/Place.h"
 
 #include <QtCore/QStringList>

@@ -1,8 +1,6 @@
 #pragma once
 
-#include "check/model/Configuration.h"
-#include "check/model/FindingList.h"
-#include "check/model/ThemeFile.h"
+#include "check/model/Place.h"
 
 #include <QtCore/QVector>
 #include <QtGui/QPalette>
@@ -20,10 +18,5 @@ struct MappingEntry
     /// Returns the name that the entry refers to; an empty text when it spells out a colour.
     QString reference() const;
 };
-
-/// Reads the palette mapping \a file, returns its sound entries in their order, and reports the
-/// others. References are looked up in \a configuration.
-QVector<MappingEntry> checkPalette(const ThemeFile &file, const Configuration &configuration,
-                                   FindingList &findings);
 
 } // namespace TARN::ThemeTool

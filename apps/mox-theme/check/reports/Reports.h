@@ -1,6 +1,7 @@
 #pragma once
 
 #include "check/model/Finding.h"
+#include "check/reports/ReportFormat.h"
 
 namespace TARN::ThemeTool {
 

@@ -1,4 +1,5 @@
-#include "check/model/PaletteMapping.h"
+#include "check/rules/PaletteRules.h"
+
 #include "check/rules/EntryList.h"
 #include "check/rules/EnumKeys.h"
 #include "text/DidYouMean.h"
@@ -142,11 +143,6 @@ void PaletteCheck::insert(const MappingEntry &entry)
 }
 
 } // namespace
-
-QString MappingEntry::reference() const
-{
-    return text.startsWith(u'@') ? text.mid(1) : QString();
-}
 
 QVector<MappingEntry> checkPalette(const ThemeFile &file, const Configuration &configuration,
                                    FindingList &findings)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "commands/Commands.h"
+#include "generator/tokens/Base.h"
 
 namespace TARN::ThemeTool {
 

@@ -1,5 +1,4 @@
 #include "command_line/Terminal.h"
-#include "commands/Keywords.h"
 #include "generator/tokens/ThemeName.h"
 #include "generator/tokens/TokenWords.h"
 #include "generator/tokens/Tokens.h"

@@ -1,5 +1,4 @@
 #include "color/ColorText.h"
-#include "commands/Keywords.h"
 #include "generator/tokens/TokenWords.h"
 #include "generator/tokens/Tokens.h"
 #include "text/Literals.h"
@@ -58,16 +57,6 @@ QString sizeEntries(const std::array<int, 4> &sizes)
     return result;
 }
 
-QString word(Base base)
-{
-    for (const Keyword<Base> &keyword : keywords<Base>()) {
-        if (keyword.choice == base) {
-            return keyword.word;
-        }
-    }
-    return {};
-}
-
 QString themeText(const Tokens &tokens)
 {
     return R"(# What the theme is made from. After a change, "mox-theme build" makes it again.
@@ -78,7 +67,7 @@ QString themeText(const Tokens &tokens)
 # The name by which the theme is shown; it also names folders.
 )"_s + textEntry("name"_s, tokens.name) +
            "# "_s + keywordList<Base>().join(", "_s) + "\n"_s +
-           textEntry("base"_s, word(tokens.base)) +
+           textEntry("base"_s, toKeyword(tokens.base)) +
            R"(# A folder of icons (scalable), cursors (Cursors) and other images (theme_resources) of your own,
 # relative to this file.
 )"_s +

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "commands/Commands.h"
+#include "generator/tokens/Base.h"
 
 #include <QtCore/QMap>
 #include <QtCore/QString>

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "commands/Commands.h"
-
 #include <QtCore/QStringList>
 #include <QtCore/QVector>
 
@@ -17,18 +15,9 @@ struct Keyword
     Choice choice;
 };
 
-/// Returns the words for all values of \a Choice: Base, ReportFormat, Severity or Shell.
+/// Returns the words for all values of \a Choice; they stand where the choice does.
 template <typename Choice>
 const QVector<Keyword<Choice>> &keywords();
-
-template <>
-const QVector<Keyword<Base>> &keywords<Base>();
-template <>
-const QVector<Keyword<ReportFormat>> &keywords<ReportFormat>();
-template <>
-const QVector<Keyword<Severity>> &keywords<Severity>();
-template <>
-const QVector<Keyword<Shell>> &keywords<Shell>();
 
 /// Returns what \a word stands for; nothing when it is none of the words.
 template <typename Choice>
@@ -40,6 +29,18 @@ std::optional<Choice> fromKeyword(const QString &word)
         }
     }
     return std::nullopt;
+}
+
+/// Returns the word that stands for \a choice.
+template <typename Choice>
+QString toKeyword(Choice choice)
+{
+    for (const Keyword<Choice> &keyword : keywords<Choice>()) {
+        if (keyword.choice == choice) {
+            return keyword.word;
+        }
+    }
+    return {};
 }
 
 /// Returns the words for all values of \a Choice, in their order.
