@@ -1,4 +1,5 @@
 #include "command_line/CommandLine.h"
+#include "command_line/ProgramArguments.h"
 #include "command_line/Terminal.h"
 #include "commands/Commands.h"
 #include "text/Literals.h"

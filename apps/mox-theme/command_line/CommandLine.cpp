@@ -5,6 +5,7 @@
 #include "command_line/Requests.h"
 #include "text/DidYouMean.h"
 #include "text/Literals.h"
+#include "text/Wording.h"
 
 #include <CLI/App.hpp>
 #include <CLI/Config.hpp>

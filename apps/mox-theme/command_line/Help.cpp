@@ -139,13 +139,4 @@ QString helpText()
            "\n'mox-theme COMMAND --help' explains a command.\n"_s;
 }
 
-QString listed(const QStringList &words, const QString &conjunction)
-{
-    if (words.size() < 2) {
-        return words.join(QString());
-    }
-    return words.mid(0, words.size() - 1).join(", "_s) + u' ' + conjunction + u' ' +
-           words.constLast();
-}
-
 } // namespace TARN::ThemeTool

@@ -13,7 +13,4 @@ QString helpText(const CommandDescription &command);
 /// Returns the text that explains the tool and lists its commands.
 QString helpText();
 
-/// Returns \a words as a list in a sentence, such as "a, b or c".
-QString listed(const QStringList &words, const QString &conjunction);
-
 } // namespace TARN::ThemeTool

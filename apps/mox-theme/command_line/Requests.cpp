@@ -1,10 +1,10 @@
 #include "command_line/Requests.h"
 
 #include "check/model/RuleTable.h"
-#include "command_line/Help.h"
 #include "generator/tokens/ThemeName.h"
 #include "text/DidYouMean.h"
 #include "text/Literals.h"
+#include "text/Wording.h"
 
 namespace TARN::ThemeTool {
 

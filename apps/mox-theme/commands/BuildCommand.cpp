@@ -4,6 +4,7 @@
 #include "generator/files/ThemeWriter.h"
 #include "generator/recipes/ThemeDefinition.h"
 #include "text/Literals.h"
+#include "text/Wording.h"
 
 namespace TARN::ThemeTool {
 

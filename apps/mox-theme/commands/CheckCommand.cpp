@@ -26,7 +26,7 @@ int runCommand(const CheckOptions &options)
     }
     // An empty report would look as if all were well.
     if (themeCount > 0) {
-        print(report(findings, options.format, themeCount));
+        print(report(findings, options.format, themeCount, terminalInks()));
     }
     if (themeCount < options.directories.size()) {
         return CannotRun;

@@ -35,7 +35,7 @@ int runCommand(const DiffOptions &options)
     const Differences found = differences(before, after);
     print(options.format == ReportFormat::Json
               ? DiffReports::json(found, options.before, options.after)
-              : DiffReports::text(found));
+              : DiffReports::text(found, terminalInks()));
     return found.sections.isEmpty() ? Fine : Findings;
 }
 

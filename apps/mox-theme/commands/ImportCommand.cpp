@@ -7,6 +7,7 @@
 #include "import/KdeColors.h"
 #include "import/SchemeTokens.h"
 #include "text/Literals.h"
+#include "text/Wording.h"
 
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>

@@ -1,4 +1,5 @@
 #include "check/Check.h"
+#include "command_line/ProgramArguments.h"
 #include "command_line/Terminal.h"
 #include "commands/Commands.h"
 #include "preview/ContactSheet.h"

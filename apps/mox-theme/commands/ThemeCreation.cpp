@@ -7,6 +7,7 @@
 #include "generator/files/ThemeWriter.h"
 #include "generator/recipes/ThemeDefinition.h"
 #include "text/Literals.h"
+#include "text/Wording.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>

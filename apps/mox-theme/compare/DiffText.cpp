@@ -1,4 +1,3 @@
-#include "command_line/Terminal.h"
 #include "compare/DiffReports.h"
 #include "compare/VisibleDistance.h"
 #include "text/Wording.h"
@@ -29,37 +28,37 @@ QString decimals(double number)
     return QString::number(number, 'f', 2);
 }
 
-QString mark(ChangeKind kind)
+QString mark(ChangeKind kind, const Inks &inks)
 {
     switch (kind) {
     case ChangeKind::Removed:
-        return inked("-"_s, Ink::Red);
+        return inks.inked("-"_s, Ink::Red);
     case ChangeKind::Added:
-        return inked("+"_s, Ink::Green);
+        return inks.inked("+"_s, Ink::Green);
     case ChangeKind::Changed:
         break;
     }
-    return inked("~"_s, Ink::Yellow);
+    return inks.inked("~"_s, Ink::Yellow);
 }
 
-QString shown(const ThemeValue &value)
+QString shown(const ThemeValue &value, const Inks &inks)
 {
     // The single colour of a gradient is none that is painted.
     const bool isPlain = value.brush.style() == Qt::SolidPattern;
-    return (isPlain ? swatch(value.brush.color()) : QString()) + onOneLine(value.text);
+    return (isPlain ? inks.swatch(value.brush.color()) : QString()) + onOneLine(value.text);
 }
 
-QString values(const Change &change)
+QString values(const Change &change, const Inks &inks)
 {
     switch (change.kind) {
     case ChangeKind::Removed:
-        return shown(change.before);
+        return shown(change.before, inks);
     case ChangeKind::Added:
-        return shown(change.after);
+        return shown(change.after, inks);
     case ChangeKind::Changed:
         break;
     }
-    return shown(change.before) + " -> "_s + shown(change.after);
+    return shown(change.before, inks) + " -> "_s + shown(change.after, inks);
 }
 
 /// Returns what follows a change: "12 brushes and 1 palette entry follow".
@@ -76,12 +75,13 @@ QString following(const Change &change)
     return followers.join(" and "_s) + (isOne ? " follows"_s : " follow"_s);
 }
 
-QString line(const Change &change, int nameWidth)
+QString line(const Change &change, int nameWidth, const Inks &inks)
 {
-    QStringList parts{values(change)};
+    QStringList parts{values(change, inks)};
     if (change.distance) {
         const Visibility seen = visibility(*change.distance);
-        parts.append(inked(word(seen), ink(seen)) + " ("_s + decimals(*change.distance) + ")"_s);
+        parts.append(inks.inked(word(seen), ink(seen)) + " ("_s + decimals(*change.distance) +
+                     ")"_s);
     }
     if (change.brushes + change.paletteEntries > 0) {
         parts.append(following(change));
@@ -90,29 +90,31 @@ QString line(const Change &change, int nameWidth)
     if (!change.groups.isEmpty() && change.groups.size() < 3) {
         parts.append("in "_s + change.groups.join(" and "_s));
     }
-    const QString name = inked(onOneLine(change.name).leftJustified(nameWidth), Ink::Bold);
-    return "  "_s + mark(change.kind) + " "_s + name + "  "_s + parts.join(", "_s) + "\n"_s;
+    const QString name = inks.inked(onOneLine(change.name).leftJustified(nameWidth), Ink::Bold);
+    return "  "_s + mark(change.kind, inks) + " "_s + name + "  "_s + parts.join(", "_s) + "\n"_s;
 }
 
-QString section(const ChangeSection &section)
+QString section(const ChangeSection &section, const Inks &inks)
 {
     int nameWidth = 0;
     for (const Change &change : section.changes) {
         nameWidth = qMax(nameWidth, onOneLine(change.name).size());
     }
-    QString text = inked(section.title, Ink::Bold) + "\n"_s;
+    QString text = inks.inked(section.title, Ink::Bold) + "\n"_s;
     for (const Change &change : section.changes) {
-        text += line(change, nameWidth);
+        text += line(change, nameWidth, inks);
     }
     return text + "\n"_s;
 }
 
-QString line(const ContrastChange &change)
+QString line(const ContrastChange &change, const Inks &inks)
 {
-    QString what = "  "_s + mark(ChangeKind::Changed) + " "_s + inked(change.text, Ink::Bold) +
-                   " on "_s + inked(change.surface, Ink::Bold) + "  "_s + decimals(change.before) +
+    QString what = "  "_s + mark(ChangeKind::Changed, inks) + " "_s +
+                   inks.inked(change.text, Ink::Bold) + " on "_s +
+                   inks.inked(change.surface, Ink::Bold) + "  "_s + decimals(change.before) +
                    " -> "_s + decimals(change.after) + ", "_s;
-    what += change.fell() ? inked("fell below"_s, Ink::Red) : inked("now meets"_s, Ink::Green);
+    what += change.fell() ? inks.inked("fell below"_s, Ink::Red)
+                          : inks.inked("now meets"_s, Ink::Green);
     what += " "_s + QString::number(change.demand);
     if (change.others > 0) {
         what += ", as on "_s + counted(change.others, "other pair"_s, "other pairs"_s) +
@@ -151,16 +153,16 @@ QString summary(const Differences &differences)
 
 } // namespace
 
-QString text(const Differences &differences)
+QString text(const Differences &differences, const Inks &inks)
 {
     QString text;
     for (const ChangeSection &changed : differences.sections) {
-        text += section(changed);
+        text += section(changed, inks);
     }
     if (!differences.contrasts.isEmpty()) {
-        text += inked("Contrast"_s, Ink::Bold) + "\n"_s;
+        text += inks.inked("Contrast"_s, Ink::Bold) + "\n"_s;
         for (const ContrastChange &change : differences.contrasts) {
-            text += line(change);
+            text += line(change, inks);
         }
         text += "\n"_s;
     }

@@ -1,7 +1,7 @@
 #include <QtGui/QImageReader>
 #include <QtTest/QtTest>
 
-#include <command_line/Terminal.h>
+#include <command_line/ProgramArguments.h>
 #include <commands/Commands.h>
 #include <mox-theme/support/Printed.h>
 #include <support/Text.h>

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "check/model/Finding.h"
+#include "text/Inks.h"
 #include "text/Literals.h"
 
 #include <algorithm>
@@ -9,7 +10,7 @@
 /// in order and not off, with paths as they are to be written.
 namespace TARN::ThemeTool::Reports {
 
-QString text(const QVector<Finding> &findings, int themeCount);
+QString text(const QVector<Finding> &findings, int themeCount, const Inks &inks);
 QString json(const QVector<Finding> &findings, int themeCount);
 QString sarif(const QVector<Finding> &findings);
 QString github(const QVector<Finding> &findings);

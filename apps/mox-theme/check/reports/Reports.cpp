@@ -44,7 +44,8 @@ QVector<Finding> reportedFindings(const QVector<Finding> &findings)
 
 } // namespace
 
-QString report(const QVector<Finding> &findings, ReportFormat format, int themeCount)
+QString report(const QVector<Finding> &findings, ReportFormat format, int themeCount,
+               const Inks &inks)
 {
     const QVector<Finding> reported = reportedFindings(findings);
     switch (format) {
@@ -57,7 +58,7 @@ QString report(const QVector<Finding> &findings, ReportFormat format, int themeC
     case ReportFormat::Text:
         break;
     }
-    return Reports::text(reported, themeCount);
+    return Reports::text(reported, themeCount, inks);
 }
 
 } // namespace TARN::ThemeTool

@@ -1,5 +1,4 @@
 #include "check/reports/Formats.h"
-#include "command_line/Terminal.h"
 #include "text/Wording.h"
 
 namespace TARN::ThemeTool::Reports {
@@ -19,38 +18,39 @@ QString place(const Finding &finding)
     return place;
 }
 
-QString entry(const Finding &finding)
+QString entry(const Finding &finding, const Inks &inks)
 {
     const Ink ink = finding.severity == Severity::Error ? Ink::Red : Ink::Yellow;
-    QString entry = place(finding) + ": "_s + inked(word(finding.severity) + ":"_s, ink) + " "_s +
-                    onOneLine(finding.text) + " ["_s + inked(finding.rule, Ink::Bold) + "]\n"_s;
+    QString entry = place(finding) + ": "_s + inks.inked(word(finding.severity) + ":"_s, ink) +
+                    " "_s + onOneLine(finding.text) + " ["_s + inks.inked(finding.rule, Ink::Bold) +
+                    "]\n"_s;
     if (!finding.suggestion.isEmpty()) {
-        entry += "    "_s + inked(onOneLine(finding.suggestion), Ink::Faint) + "\n"_s;
+        entry += "    "_s + inks.inked(onOneLine(finding.suggestion), Ink::Faint) + "\n"_s;
     }
     return entry;
 }
 
-QString summary(const QVector<Finding> &findings, int themeCount)
+QString summary(const QVector<Finding> &findings, int themeCount, const Inks &inks)
 {
     const QString where = " in "_s + counted(themeCount, "theme"_s, "themes"_s);
     if (findings.isEmpty()) {
-        return inked("No findings"_s, Ink::Green) + where + "\n"_s;
+        return inks.inked("No findings"_s, Ink::Green) + where + "\n"_s;
     }
     const int errors = count(findings, Severity::Error);
     const int warnings = count(findings, Severity::Warning);
     QStringList counts;
     if (errors > 0) {
-        counts.append(inked(counted(errors, "error"_s, "errors"_s), Ink::Red));
+        counts.append(inks.inked(counted(errors, "error"_s, "errors"_s), Ink::Red));
     }
     if (warnings > 0) {
-        counts.append(inked(counted(warnings, "warning"_s, "warnings"_s), Ink::Yellow));
+        counts.append(inks.inked(counted(warnings, "warning"_s, "warnings"_s), Ink::Yellow));
     }
     return counts.join(", "_s) + where + "\n"_s;
 }
 
 } // namespace
 
-QString text(const QVector<Finding> &findings, int themeCount)
+QString text(const QVector<Finding> &findings, int themeCount, const Inks &inks)
 {
     QString text;
     QString file;
@@ -59,12 +59,12 @@ QString text(const QVector<Finding> &findings, int themeCount)
             text += "\n"_s;
         }
         file = finding.file;
-        text += entry(finding);
+        text += entry(finding, inks);
     }
     if (!text.isEmpty()) {
         text += "\n"_s;
     }
-    return text + summary(findings, themeCount);
+    return text + summary(findings, themeCount, inks);
 }
 
 } // namespace TARN::ThemeTool::Reports

@@ -1,9 +1,9 @@
-#include "command_line/Terminal.h"
 #include "generator/tokens/ThemeName.h"
 #include "generator/tokens/TokenWords.h"
 #include "generator/tokens/Tokens.h"
 #include "text/DidYouMean.h"
 #include "text/Literals.h"
+#include "text/Wording.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>

@@ -26,6 +26,7 @@ private Q_SLOTS:
     void textCounts_data();
     void textCounts();
     void textCommandsNoTerminal();
+    void textIsWrittenInInks();
     void whatIsOffIsLeftOut_data();
     void whatIsOffIsLeftOut();
 
@@ -122,6 +123,17 @@ void ReportsTest::textCommandsNoTerminal()
     QVERIFY(!written.contains(QLatin1Char('\r')));
     QCOMPARE(written.count(QLatin1Char('\n')), 4);
     QVERIFY(written.startsWith(QString::fromUtf8("a\\x1b[2Jb\\x0ac:1: error: ")));
+}
+
+void ReportsTest::textIsWrittenInInks()
+{
+    const QVector<Finding> findings{finding("low-contrast", Severity::Error, text("a"), 1)};
+    const QString inked = report(findings, ReportFormat::Text, 1, Inks(Inks::Range::Named));
+    QCOMPARE(inked, text("a:1: \033[1;31merror:\033[0m Something is wrong "
+                         "[\033[1mlow-contrast\033[0m]\n\n"
+                         "\033[1;31m1 error\033[0m in 1 theme\n"));
+    QCOMPARE(report(findings, ReportFormat::Json, 1, Inks(Inks::Range::Named)),
+             report(findings, ReportFormat::Json));
 }
 
 void ReportsTest::whatIsOffIsLeftOut_data()
