@@ -2,6 +2,7 @@
 
 #include <check/model/RuleTable.h>
 #include <command_line/CommandLine.h>
+#include <command_line/CommandTable.h>
 #include <generator/recipes/Scheme.h>
 #include <mox-theme/support/JsonSchema.h>
 #include <text/Literals.h>

@@ -3,6 +3,7 @@
 #include "command_line/CommandTable.h"
 
 #include "check/model/RuleTable.h"
+#include "command_line/Options.h"
 #include "text/Literals.h"
 
 namespace TARN::ThemeTool {

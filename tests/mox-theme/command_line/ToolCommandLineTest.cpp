@@ -1,6 +1,7 @@
 #include <QtTest/QtTest>
 
 #include <command_line/CommandLine.h>
+#include <command_line/CommandTable.h>
 #include <text/Literals.h>
 
 using namespace TARN::ThemeTool;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "command_line/CommandLine.h"
+#include "command_line/CommandTable.h"
 
 #include <QtCore/QString>
 
