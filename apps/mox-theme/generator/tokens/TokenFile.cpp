@@ -1,18 +1,12 @@
 #include "generator/tokens/ThemeName.h"
 #include "generator/tokens/TokenWords.h"
-#include "generator/tokens/Tokens.h"
-#include "text/DidYouMean.h"
+#include "generator/tokens/TomlReader.h"
 #include "text/Literals.h"
 #include "text/Wording.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
-
-#include <algorithm>
-#include <functional>
-#include <toml++/toml.h>
-#include <tuple>
 
 namespace TARN::ThemeTool {
 
@@ -28,39 +22,7 @@ struct Limits
 constexpr Limits FontSizes{1, 96};
 constexpr Limits CornerRadii{0, 32};
 
-QString toText(std::string_view utf8)
-{
-    return QString::fromUtf8(utf8.data(), static_cast<int>(utf8.size()));
-}
-
-/// Returns what to append to a complaint about \a mistyped.
-QString didYouMean(const QString &mistyped, const QStringList &words)
-{
-    const QString nearest = KnownNames(words).nearest(mistyped);
-    return nearest.isEmpty() ? QString() : R"(; did you mean "%1"?)"_s.arg(nearest);
-}
-
-TokenPlace placeOf(const toml::source_position &position)
-{
-    return {static_cast<int>(position.line), static_cast<int>(position.column)};
-}
-
-/// A key that a table may hold, and what is done with its value.
-struct Key
-{
-    QString name;
-    std::function<void(const toml::node &)> read;
-};
-
-/// An entry whose name is the author's.
-struct Entry
-{
-    QString name;
-    QString value;
-    toml::source_position position;
-};
-
-class TokenReader
+class TokenReader : public TomlReader
 {
 public:
     /// Font files are named relative to \a folder.
@@ -69,17 +31,8 @@ public:
     void read(const toml::table &root);
 
     [[nodiscard]] const Tokens &tokens() const { return m_tokens; }
-    /// Returns the first problem of the file, from its top.
-    [[nodiscard]] const TokenProblem &problem() const { return m_problem; }
 
 private:
-    void complain(const toml::source_position &position, const QString &text);
-    void readKeys(const toml::table &table, const QString &tableName, const QVector<Key> &keys);
-    Key tableKey(const QString &name, const QVector<Key> &keys);
-
-    std::optional<QString> readText(const toml::node &node, const QString &name);
-    void readWord(const toml::node &node, const QString &name, const QStringList &words,
-                  const std::function<void(int)> &use);
     Key seedKey(const QString &name, QColor &color);
     QVector<Key> sizeKeys(std::array<int, 4> &sizes, Limits limits);
     void readName(const toml::node &node);
@@ -88,14 +41,12 @@ private:
     void readFontFile(const toml::node &node);
     void readImages(const toml::node &node);
     void readOpacity(const toml::node &node);
-    QVector<Entry> readOverrides(const toml::node &node, const QString &name);
     void readColors(const toml::node &node);
     void readBrushes(const toml::node &node);
     void demandSeeds(const toml::table &root);
 
     QDir m_folder;
     Tokens m_tokens;
-    TokenProblem m_problem;
 };
 
 TokenReader::TokenReader(const QString &folder)
@@ -103,78 +54,7 @@ TokenReader::TokenReader(const QString &folder)
 {
 }
 
-void TokenReader::complain(const toml::source_position &position, const QString &text)
-{
-    const TokenProblem problem{placeOf(position), onOneLine(text)};
-    const bool isEarlier =
-        std::tie(problem.line, problem.column) < std::tie(m_problem.line, m_problem.column);
-    if (m_problem.text.isEmpty() || isEarlier) {
-        m_problem = problem;
-    }
-}
-
-/// Reads what \a table, which is called \a tableName, holds; every other key is a problem.
-void TokenReader::readKeys(const toml::table &table, const QString &tableName,
-                           const QVector<Key> &keys)
-{
-    for (const auto &[tomlKey, node] : table) {
-        const QString name = toText(tomlKey.str());
-        const auto isNamed = [&name](const Key &key) { return key.name == name; };
-        const auto *const key = std::find_if(keys.cbegin(), keys.cend(), isNamed);
-        if (key != keys.cend()) {
-            key->read(node);
-            continue;
-        }
-        QStringList names;
-        for (const Key &known : keys) {
-            names.append(known.name);
-        }
-        const QString kind = node.is_table() ? "table"_s : "key"_s;
-        const QString place = tableName.isEmpty() ? QString() : " in [%1]"_s.arg(tableName);
-        complain(tomlKey.source().begin,
-                 R"(unknown %1 "%2")"_s.arg(kind, name) + place + didYouMean(name, names));
-    }
-}
-
-Key TokenReader::tableKey(const QString &name, const QVector<Key> &keys)
-{
-    return {name, [this, name, keys](const toml::node &node) {
-                if (const toml::table *table = node.as_table()) {
-                    readKeys(*table, name, keys);
-                } else {
-                    complain(node.source().begin, R"("%1" must be a table)"_s.arg(name));
-                }
-            }};
-}
-
-std::optional<QString> TokenReader::readText(const toml::node &node, const QString &name)
-{
-    const auto *text = node.as_string();
-    if (text == nullptr) {
-        complain(node.source().begin, R"("%1" must be a text in quotation marks)"_s.arg(name));
-        return std::nullopt;
-    }
-    return toText(text->get());
-}
-
-/// Reads one of \a words and passes its index to \a use.
-void TokenReader::readWord(const toml::node &node, const QString &name, const QStringList &words,
-                           const std::function<void(int)> &use)
-{
-    const auto text = readText(node, name);
-    if (!text) {
-        return;
-    }
-    if (!words.contains(*text)) {
-        complain(node.source().begin,
-                 R"(unknown %1 "%2" (%3))"_s.arg(name, *text, words.join(", "_s)) +
-                     didYouMean(*text, words));
-        return;
-    }
-    use(words.indexOf(*text));
-}
-
-Key TokenReader::seedKey(const QString &name, QColor &color)
+TomlReader::Key TokenReader::seedKey(const QString &name, QColor &color)
 {
     return {name, [this, name, &color](const toml::node &node) {
                 const auto text = readText(node, name);
@@ -191,7 +71,7 @@ Key TokenReader::seedKey(const QString &name, QColor &color)
             }};
 }
 
-QVector<Key> TokenReader::sizeKeys(std::array<int, 4> &sizes, Limits limits)
+QVector<TomlReader::Key> TokenReader::sizeKeys(std::array<int, 4> &sizes, Limits limits)
 {
     QVector<Key> keys;
     const QStringList words = sizeWords();
@@ -302,42 +182,9 @@ void TokenReader::readOpacity(const toml::node &node)
     m_tokens.rubberBandOpacity = *number;
 }
 
-/// Returns the entries of the table \a name in the order of the file.
-QVector<Entry> TokenReader::readOverrides(const toml::node &node, const QString &name)
-{
-    const toml::table *table = node.as_table();
-    if (table == nullptr) {
-        complain(node.source().begin, R"("%1" must be a table)"_s.arg(name));
-        return {};
-    }
-    QVector<Entry> entries;
-    for (const auto &[tomlKey, valueNode] : *table) {
-        const QString key = toText(tomlKey.str());
-        const auto value = readText(valueNode, key);
-        if (!value) {
-            continue;
-        }
-        if (key.isEmpty()) {
-            complain(tomlKey.source().begin, "an entry of [%1] has no name"_s.arg(name));
-        }
-        // Anything else may be the name of a variable, which is not known here.
-        if (value->isEmpty() ||
-            (value->startsWith(QLatin1Char('#')) && !QColor::isValidColor(*value))) {
-            complain(valueNode.source().begin, R"("%1" is no colour: "%2")"_s.arg(key, *value));
-        }
-        entries.append({key, *value, tomlKey.source().begin});
-    }
-    // The parser sorts its tables by key.
-    std::sort(entries.begin(), entries.end(), [](const Entry &first, const Entry &second) {
-        return std::tie(first.position.line, first.position.column) <
-               std::tie(second.position.line, second.position.column);
-    });
-    return entries;
-}
-
 void TokenReader::readColors(const toml::node &node)
 {
-    for (const Entry &entry : readOverrides(node, "colors"_s)) {
+    for (const Entry &entry : readEntries(node, "colors"_s)) {
         m_tokens.colors.insert(entry.name, entry.value);
         m_tokens.places.insert(entry.name, placeOf(entry.position));
     }
@@ -345,7 +192,7 @@ void TokenReader::readColors(const toml::node &node)
 
 void TokenReader::readBrushes(const toml::node &node)
 {
-    for (const Entry &entry : readOverrides(node, "brushes"_s)) {
+    for (const Entry &entry : readEntries(node, "brushes"_s)) {
         m_tokens.brushes.append({entry.name, entry.value});
         m_tokens.places.insert(entry.name, placeOf(entry.position));
     }
@@ -388,7 +235,7 @@ void TokenReader::read(const toml::table &root)
 /// What is missing is told only when nothing that is there explains it.
 void TokenReader::demandSeeds(const toml::table &root)
 {
-    if (!m_problem.text.isEmpty()) {
+    if (!problem().text.isEmpty()) {
         return;
     }
     if (!root.contains("name")) {
