@@ -4,6 +4,13 @@ namespace TARN::ThemeTool {
 
 namespace {
 
+void keepContrasts(BaseTones &tones, double text, double graphic, double disabled)
+{
+    tones.textContrast = text;
+    tones.graphicContrast = graphic;
+    tones.disabledContrast = disabled;
+}
+
 BaseTones darkTones()
 {
     BaseTones tones{};
@@ -50,9 +57,7 @@ BaseTones darkTones()
     tones.disabledSurface = 0.45;
     tones.disabledText = 0.50;
 
-    tones.textContrast = 4.5;
-    tones.graphicContrast = 3.0;
-    tones.disabledContrast = 2.4;
+    keepContrasts(tones, 4.5, 3.0, 2.4);
     return tones;
 }
 
@@ -102,9 +107,7 @@ BaseTones lightTones()
     tones.disabledSurface = 0.50;
     tones.disabledText = 0.50;
 
-    tones.textContrast = 4.5;
-    tones.graphicContrast = 3.0;
-    tones.disabledContrast = 2.2;
+    keepContrasts(tones, 4.5, 3.0, 2.2);
     return tones;
 }
 
@@ -155,9 +158,7 @@ BaseTones highContrastTones()
     tones.disabledSurface = 0.30;
     tones.disabledText = 0.58;
 
-    tones.textContrast = 7.0;
-    tones.graphicContrast = 4.5;
-    tones.disabledContrast = 3.0;
+    keepContrasts(tones, 7.0, 4.5, 3.0);
     return tones;
 }
 
