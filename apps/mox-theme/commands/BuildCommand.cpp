@@ -8,18 +8,6 @@
 
 namespace TARN::ThemeTool {
 
-namespace {
-
-/// Returns where \a problem is, as editors understand it.
-QString place(const QString &file, const TokenProblem &problem)
-{
-    return problem.line == 0 ? file
-                             : "%1:%2:%3"_s.arg(file, QString::number(problem.line),
-                                                QString::number(problem.column));
-}
-
-} // namespace
-
 int runCommand(const BuildOptions &options)
 {
     Tokens tokens;
@@ -28,7 +16,7 @@ int runCommand(const BuildOptions &options)
         problem = overrideProblem(tokens);
     }
     if (!problem.text.isEmpty()) {
-        return fail(place(options.tokens, problem) + ": "_s + problem.text);
+        return fail(located(options.tokens, problem));
     }
     const QString writeProblem = writeTheme(defineTheme(tokens), options.out);
     if (!writeProblem.isEmpty()) {

@@ -51,6 +51,17 @@ QString nextSteps(const QString &directory, const QString &tokenFile)
     return steps;
 }
 
+QString located(const QString &path, const TokenProblem &problem)
+{
+    QString place = path;
+    for (const int number : {problem.line, problem.column}) {
+        if (number > 0) {
+            place += u':' + QString::number(number);
+        }
+    }
+    return place + ": "_s + problem.text;
+}
+
 int createTheme(const Tokens &tokens, const QString &repository, bool force)
 {
     const QString directory = QDir::cleanPath(repository + QLatin1Char('/') + tokens.name);
