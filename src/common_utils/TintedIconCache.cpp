@@ -2,6 +2,8 @@
 
 #include <QtWidgets/QApplication>
 
+#include <utility>
+
 namespace TARN {
 
 namespace {
@@ -99,18 +101,14 @@ void TintedIconCache::watchApplication()
 void TintedIconCache::dropOutdated()
 {
     QStyle *style = applicationStyle();
-    const QString themeName = QIcon::themeName();
-    const QStringList searchPaths = QIcon::themeSearchPaths();
-    // Setting the same search paths again has the theme read anew, too.
-    if (m_style == style && m_themeName == themeName &&
-        m_themeSearchPaths.isSharedWith(searchPaths)) {
+    IconThemeState iconTheme = IconThemeState::current();
+    if (m_style == style && m_iconTheme == iconTheme) {
         return;
     }
     m_pictures.clear();
     m_actualSizes.clear();
     m_style = style;
-    m_themeName = themeName;
-    m_themeSearchPaths = searchPaths;
+    m_iconTheme = std::move(iconTheme);
 }
 
 void TintedIconCache::clear()

@@ -1,8 +1,9 @@
 #pragma once
 
+#include "common_utils/IconThemeState.h"
+
 #include <QtCore/QCache>
 #include <QtCore/QPointer>
-#include <QtCore/QStringList>
 #include <QtGui/QIcon>
 #include <QtGui/QPixmap>
 #include <QtWidgets/QStyle>
@@ -70,8 +71,7 @@ private:
     QCache<TintKey, QIcon> m_icons;
     QPointer<QCoreApplication> m_application;
     QPointer<QStyle> m_style;
-    QString m_themeName;
-    QStringList m_themeSearchPaths;
+    IconThemeState m_iconTheme;
 };
 
 bool operator==(const PictureKey &a, const PictureKey &b);

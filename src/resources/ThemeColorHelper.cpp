@@ -1,11 +1,13 @@
 #include "resources/ThemeColorHelper.h"
 
 #include "common_utils/Helpers.h"
+#include "common_utils/IconThemeState.h"
 #include "resources/ThemeResources.h"
 #include "resources/kept/ProcessCache.h"
+#include "resources/kept/SlotCache.h"
 #include "resources/variables/VariablePath.h"
 
-#include <array>
+#include <utility>
 
 namespace TARN {
 
@@ -36,79 +38,54 @@ QBrush referenceForeground()
     return QColor(0xe5, 0xee, 0xf4);
 }
 
-QIcon tintedIcon(const QIcon &icon, const QBrush &brush)
+/// An icon that is to be painted with a brush.
+struct Tint
 {
-    QString key = ThemeResources::getBrushKey(brush);
+    QIcon icon;
+    QBrush brush;
+
+    bool operator==(const Tint &other) const
+    {
+        return icon.cacheKey() == other.icon.cacheKey() && brush == other.brush;
+    }
+    std::size_t hash() const
+    {
+        // The key of an icon counts in its upper half.
+        const auto key = quint64(icon.cacheKey());
+        return mixedHash({key, key >> 32U, brush.color().rgba()});
+    }
+};
+
+/// What a tinted icon depends on besides: the icon theme, and the names of the published brushes.
+struct TintCircumstances
+{
+    IconThemeState iconTheme;
+    QVariantMap variables;
+
+    static TintCircumstances current()
+    {
+        return {IconThemeState::current(),
+                publishedVariables(ThemeResources::getThemeVariablePropertyName())};
+    }
+    bool operator==(const TintCircumstances &other) const
+    {
+        return iconTheme == other.iconTheme && variables.isSharedWith(other.variables);
+    }
+};
+
+QIcon tintedIcon(const Tint &tint)
+{
+    QString key = ThemeResources::getBrushKey(tint.brush);
     // Icon themes name the disabled variants of their icons the other way round.
     key.replace(QLatin1String("BrushDisabled"), QLatin1String("DisabledBrush"));
-    QIcon themed = QIcon::fromTheme(icon.name() + QLatin1Char('.') + key);
+    QIcon themed = QIcon::fromTheme(tint.icon.name() + QLatin1Char('.') + key);
     if (!themed.isNull()) {
         return themed;
     }
     const bool disabled = key.contains(QLatin1String("Disabled"));
-    return Helpers::getModifiedIconWithForegroundBrush(icon, referenceForeground(), brush,
+    return Helpers::getModifiedIconWithForegroundBrush(tint.icon, referenceForeground(), tint.brush,
                                                        disabled);
 }
-
-/// The icons that were last tinted. Finding out whether the icon theme has one for a brush takes
-/// longer than painting it.
-class TintedIcons
-{
-public:
-    static bool isKeepable(const QIcon &icon, const QBrush &brush)
-    {
-        return !icon.isNull() && brush.style() == Qt::SolidPattern;
-    }
-
-    QIcon icon(const QIcon &icon, const QBrush &brush)
-    {
-        dropOutdated();
-        Entry &entry = m_entries.at(slotOf(icon.cacheKey(), brush));
-        if (entry.source != icon.cacheKey() || entry.brush != brush) {
-            entry = {icon.cacheKey(), brush, tintedIcon(icon, brush)};
-        }
-        return entry.tinted;
-    }
-
-private:
-    struct Entry
-    {
-        qint64 source = 0;
-        QBrush brush;
-        QIcon tinted;
-    };
-
-    static constexpr std::size_t entryCount = 512;
-
-    static std::size_t slotOf(qint64 source, const QBrush &brush)
-    {
-        // The key of an icon counts in its upper half.
-        const auto number = quint64(source) + (quint64(source) >> 32U) * 31;
-        return (number ^ quint64(brush.color().rgba()) * 17) % entryCount;
-    }
-
-    /// The result depends on the icon theme and on the names of the published brushes.
-    void dropOutdated()
-    {
-        const QString themeName = QIcon::themeName();
-        const QStringList searchPaths = QIcon::themeSearchPaths();
-        const QVariantMap variables =
-            publishedVariables(ThemeResources::getThemeVariablePropertyName());
-        if (m_themeName == themeName && m_searchPaths.isSharedWith(searchPaths) &&
-            m_variables.isSharedWith(variables)) {
-            return;
-        }
-        m_entries.fill(Entry());
-        m_themeName = themeName;
-        m_searchPaths = searchPaths;
-        m_variables = variables;
-    }
-
-    std::array<Entry, entryCount> m_entries;
-    QString m_themeName;
-    QStringList m_searchPaths;
-    QVariantMap m_variables;
-};
 
 } // namespace
 
@@ -124,9 +101,13 @@ QColor ThemeColorHelper::disabled(const QColor &color, bool foreground)
 
 QIcon ThemeColorHelper::getModifiedIconWithForegroundBrush(QIcon icon, QBrush brush)
 {
-    static ProcessCached<TintedIcons> kept([] { return TintedIcons(); });
-    return TintedIcons::isKeepable(icon, brush) ? kept.value().icon(icon, brush)
-                                                : tintedIcon(icon, brush);
+    const Tint tint{std::move(icon), std::move(brush)};
+    if (tint.icon.isNull() || tint.brush.style() != Qt::SolidPattern) {
+        return tintedIcon(tint);
+    }
+    // Finding out whether the icon theme has one for a brush takes longer than painting it.
+    static SlotCache<Tint, QIcon, 257, TintCircumstances> icons(tintedIcon);
+    return icons.value(tint);
 }
 
 } // namespace TARN

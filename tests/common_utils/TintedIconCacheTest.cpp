@@ -50,6 +50,7 @@ private Q_SLOTS:
     void styleChangeRendersAnew();
     void paletteChangeRendersEffectsAnew();
     void iconThemeChangeRendersAnew();
+    void newFallbackFolderRendersAnew();
     void manySizesAreNotAllKept();
     void largePictureIsKept();
     void handsOutPixmapsWithoutCopying();
@@ -175,6 +176,25 @@ void TintedIconCacheTest::iconThemeChangeRendersAnew()
     QVERIFY(QFile::copy(writeSvg(whole), file));
     QIcon::setThemeSearchPaths({themes.path()});
     QCOMPARE(pixels(icon, 16).pixelColor(12, 8), tint);
+}
+
+void TintedIconCacheTest::newFallbackFolderRendersAnew()
+{
+    const QTemporaryDir folders;
+    for (const char *width : {"16", "4"}) {
+        const QString folder = folders.filePath(QLatin1String(width));
+        QVERIFY(QDir().mkpath(folder));
+        const QByteArray document =
+            svg(QByteArray("<path d=\"M0 0h") + width + "v16H0z\" fill=\"#e5eef4\"/>");
+        QVERIFY(QFile::copy(writeSvg(document), folder + QLatin1String("/action.test.svg")));
+    }
+    QIcon::setThemeName(QStringLiteral("NoSuchTheme"));
+    QIcon::setFallbackSearchPaths({folders.filePath(QStringLiteral("16"))});
+    const QIcon icon = tinted(QIcon::fromTheme(QStringLiteral("action.test")), tint);
+    QCOMPARE(pixels(icon, 16).pixelColor(12, 8), tint);
+    QIcon::setFallbackSearchPaths({folders.filePath(QStringLiteral("4"))});
+    QCOMPARE(pixels(icon, 16).pixelColor(12, 8).alpha(), 0);
+    QCOMPARE(pixels(icon, 16).pixelColor(2, 8), tint);
 }
 
 void TintedIconCacheTest::manySizesAreNotAllKept()

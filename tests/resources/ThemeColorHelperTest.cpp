@@ -33,6 +33,31 @@ QColor centre(const QIcon &icon)
     return icon.pixmap(16, 16).toImage().pixelColor(8, 8);
 }
 
+/// Makes an icon \a file of one colour.
+bool saveIcon(const QString &file, const QColor &color)
+{
+    QPixmap pixmap(16, 16);
+    pixmap.fill(color);
+    return pixmap.save(file);
+}
+
+/// Makes the icon theme "Own" of \a icons, by their names, the current one.
+void useIconTheme(const ThemeRepository &files, const QMap<QString, QColor> &icons)
+{
+    files.write(QStringLiteral("Own/index.theme"),
+                "[Icon Theme]\nName=Own\nDirectories=scalable\n\n[scalable]\nSize=16\n"
+                "Type=Scalable\nMinSize=8\nMaxSize=256\n");
+    files.makeFolder(QStringLiteral("Own/scalable"));
+    for (auto it = icons.cbegin(); it != icons.cend(); ++it) {
+        const QString file = QStringLiteral("Own/scalable/%1.png").arg(it.key());
+        QVERIFY(saveIcon(files.path(file), it.value()));
+    }
+    QIcon::setThemeSearchPaths({files.path()});
+    QIcon::setThemeName(QStringLiteral("Own"));
+}
+
+const QColor referenceForeground(0xe5, 0xee, 0xf4);
+
 } // namespace
 
 /// Disabled colours and recoloured icons.
@@ -87,7 +112,7 @@ private Q_SLOTS:
 
     void referenceForegroundIsReplaced()
     {
-        const QIcon icon = squareIcon(QColor(0xe5, 0xee, 0xf4));
+        const QIcon icon = squareIcon(referenceForeground);
         QCOMPARE(
             centre(ThemeColorHelper::getModifiedIconWithForegroundBrush(icon, QBrush(Qt::red))),
             QColor(Qt::red));
@@ -123,7 +148,7 @@ private Q_SLOTS:
         const QVariantMap brushes = name.isEmpty() ? QVariantMap() : QVariantMap{{name, tint}};
         publishVariables({{QStringLiteral("brushes"), brushes}});
         const QIcon icon = ThemeColorHelper::getModifiedIconWithForegroundBrush(
-            squareIcon(QColor(0xe5, 0xee, 0xf4)), tint);
+            squareIcon(referenceForeground), tint);
         const QColor painted = icon.pixmap(16, QIcon::Disabled).toImage().pixelColor(8, 8);
         QCOMPARE(painted == tint.color(), disabled);
     }
@@ -148,23 +173,55 @@ private Q_SLOTS:
             brushName.isEmpty() ? QVariantMap() : QVariantMap{{brushName, tint}};
         publishVariables({{QStringLiteral("brushes"), brushes}});
         const ThemeRepository files;
-        files.write(QStringLiteral("Own/index.theme"),
-                    "[Icon Theme]\nName=Own\nDirectories=scalable\n\n[scalable]\nSize=16\n"
-                    "Type=Scalable\nMinSize=8\nMaxSize=256\n");
-        for (const QString &name : {QStringLiteral("action.close"), variant}) {
-            files.makeFolder(QStringLiteral("Own/scalable"));
-            QPixmap pixmap(16, 16);
-            pixmap.fill(name == variant ? QColor(Qt::yellow) : QColor(0xe5, 0xee, 0xf4));
-            QVERIFY(pixmap.save(files.path(QStringLiteral("Own/scalable/%1.png").arg(name))));
-        }
-        QIcon::setThemeSearchPaths({files.path()});
-        QIcon::setThemeName(QStringLiteral("Own"));
+        useIconTheme(files, {{QStringLiteral("action.close"), referenceForeground},
+                             {variant, QColor(Qt::yellow)}});
 
         const QIcon icon = QIcon::fromTheme(QStringLiteral("action.close"));
         QCOMPARE(icon.name(), QStringLiteral("action.close"));
         const QIcon tinted = ThemeColorHelper::getModifiedIconWithForegroundBrush(icon, tint);
         QCOMPARE(centre(tinted), QColor(Qt::yellow));
         QCOMPARE(tinted.name(), variant);
+    }
+
+    /// The variant is found as soon as there is a folder that has one.
+    void newFallbackFolderIsLookedAt()
+    {
+        const QBrush tint(Qt::magenta);
+        publishVariables({{QStringLiteral("brushes"),
+                           QVariantMap{{QStringLiteral("MainBrush"), QVariant(tint)}}}});
+        const ThemeRepository files;
+        useIconTheme(files, {{QStringLiteral("action.close"), referenceForeground}});
+        const QIcon icon = QIcon::fromTheme(QStringLiteral("action.close"));
+        QCOMPARE(centre(ThemeColorHelper::getModifiedIconWithForegroundBrush(icon, tint)),
+                 QColor(Qt::magenta));
+
+        files.makeFolder(QStringLiteral("fallback"));
+        QVERIFY(saveIcon(files.path(QStringLiteral("fallback/action.close.MainBrush.png")),
+                         Qt::yellow));
+        QIcon::setFallbackSearchPaths({files.path(QStringLiteral("fallback"))});
+        QCOMPARE(centre(ThemeColorHelper::getModifiedIconWithForegroundBrush(icon, tint)),
+                 QColor(Qt::yellow));
+    }
+
+    /// More brushes than are kept, the nearest ones to each other among them.
+    void everyBrushHasItsTint()
+    {
+        const QIcon icon = squareIcon(referenceForeground);
+        for (QRgb rgb = 0; rgb < 0x480; ++rgb) {
+            const QColor tint(rgb);
+            QCOMPARE(centre(ThemeColorHelper::getModifiedIconWithForegroundBrush(icon, tint)),
+                     tint);
+        }
+    }
+
+    void everyIconHasItsTint()
+    {
+        for (QRgb rgb = 0; rgb < 0x480; ++rgb) {
+            const QColor other(rgb);
+            const QIcon tinted = ThemeColorHelper::getModifiedIconWithForegroundBrush(
+                squareIcon(other), QBrush(Qt::red));
+            QCOMPARE(centre(tinted), other);
+        }
     }
 };
 
