@@ -3,7 +3,7 @@
 #include "catalogue/VariableTable.h"
 #include "catalogue/Words.h"
 #include "resources/ThemeResources.h"
-#include "resources/kept/ProcessCache.h"
+#include "resources/kept/KeptValue.h"
 
 #include <QtCore/QStringBuilder>
 

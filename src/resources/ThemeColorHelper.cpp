@@ -3,7 +3,7 @@
 #include "common_utils/Helpers.h"
 #include "common_utils/IconThemeState.h"
 #include "resources/ThemeResources.h"
-#include "resources/kept/ProcessCache.h"
+#include "resources/kept/KeptValue.h"
 #include "resources/kept/SlotCache.h"
 #include "resources/variables/VariablePath.h"
 

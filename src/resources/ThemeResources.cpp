@@ -1,6 +1,6 @@
 #include "resources/ThemeResources.h"
 
-#include "resources/kept/ProcessCache.h"
+#include "resources/kept/KeptValue.h"
 #include "resources/variables/LookUps.h"
 #include "resources/variables/VariableGroup.h"
 #include "resources/variables/VariableKeyIndex.h"

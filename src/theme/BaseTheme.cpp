@@ -4,7 +4,6 @@
 #include "readers/ThemeConfigurationReader.h"
 #include "readers/xml/XmlFile.h"
 #include "resources/ThemeResources.h"
-#include "resources/kept/ProcessCache.h"
 #include "resources/variables/VariantMap.h"
 #include "theme/CleanSwitch.h"
 #include "theme/StyleInstallation.h"

@@ -1,6 +1,6 @@
 #include "theme/CleanSwitch.h"
 
-#include "resources/kept/ProcessCache.h"
+#include "resources/variables/ThemeGeneration.h"
 #include "style/asking/Properties.h"
 #include "theme/DocumentLinks.h"
 #include "theme/ThemeFootprint.h"
@@ -151,7 +151,7 @@ CleanSwitch::CleanSwitch(QApplication &app, ThemeFootprint &footprint)
     m_plainLabels = plainLabels();
     m_plainAreas = plainAreas();
     footprint.takeBack();
-    ProcessCache::dropAll();
+    ThemeGeneration::startNext();
     // Pictures are kept by path and size there, which two themes' resource files may share.
     QPixmapCache::clear();
     // The default of the sizes that a theme leaves out. Widgets are not told: they are about to
@@ -175,7 +175,7 @@ void CleanSwitch::variablesPublished() const
 {
     if (m_active) {
         QGuiApplication::setFont(m_formerFont);
-        ProcessCache::dropAll();
+        ThemeGeneration::startNext();
     }
 }
 

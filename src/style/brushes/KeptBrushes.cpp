@@ -1,7 +1,7 @@
 #include "style/brushes/KeptBrushes.h"
 
 #include "catalogue/Names.h"
-#include "resources/kept/ProcessCache.h"
+#include "resources/kept/KeptValue.h"
 
 namespace TARN {
 

@@ -2,7 +2,7 @@
 
 #include "catalogue/Names.h"
 #include "resources/ThemeColorHelper.h"
-#include "resources/kept/ProcessCache.h"
+#include "resources/kept/KeptValue.h"
 #include "style/asking/OptionState.h"
 #include "style/brushes/ButtonBrushChoice.h"
 #include "style/drawing/Palettes.h"

@@ -2,7 +2,7 @@
 
 #include "resources/ThemeColorHelper.h"
 #include "resources/ThemeResources.h"
-#include "resources/kept/ProcessCache.h"
+#include "resources/kept/KeptValue.h"
 
 #include <QtGui/QPainter>
 #include <QtGui/QPixmap>

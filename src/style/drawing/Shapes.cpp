@@ -1,7 +1,7 @@
 #include "style/drawing/Shapes.h"
 
 #include "resources/ThemeResources.h"
-#include "resources/kept/ProcessCache.h"
+#include "resources/kept/KeptValue.h"
 #include "resources/kept/SlotCache.h"
 
 #include <QtGui/QPainter>

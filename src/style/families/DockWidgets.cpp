@@ -1,7 +1,7 @@
 #include "style/families/DockWidgets.h"
 
 #include "catalogue/Names.h"
-#include "resources/kept/ProcessCache.h"
+#include "resources/kept/KeptValue.h"
 #include "style/asking/OptionState.h"
 #include "style/brushes/KeptBrushes.h"
 #include "style/drawing/Grips.h"

@@ -4,7 +4,7 @@
 #include "common_utils/Helpers.h"
 #include "resources/ThemeColorHelper.h"
 #include "resources/ThemeResources.h"
-#include "resources/kept/ProcessCache.h"
+#include "resources/kept/KeptValue.h"
 #include "style/asking/Properties.h"
 
 #include <QtGui/QImage>

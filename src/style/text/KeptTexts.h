@@ -1,6 +1,6 @@
 #pragma once
 
-#include "resources/kept/ProcessCache.h"
+#include "resources/kept/KeptValue.h"
 #include "style/text/GlyphWatch.h"
 
 #include <QtCore/QCache>

@@ -1,7 +1,7 @@
 #include "style/families/item_views/ItemViews.h"
 
 #include "catalogue/Names.h"
-#include "resources/kept/ProcessCache.h"
+#include "resources/kept/KeptValue.h"
 #include "style/asking/Classes.h"
 #include "style/asking/OptionState.h"
 #include "style/asking/Properties.h"

@@ -1,7 +1,7 @@
 #include "style/families/tabs/TabSizes.h"
 
 #include "resources/ThemeResources.h"
-#include "resources/kept/ProcessCache.h"
+#include "resources/kept/KeptValue.h"
 #include "style/asking/Backgrounds.h"
 #include "style/asking/Properties.h"
 #include "style/families/tabs/TabSides.h"
