@@ -3,7 +3,6 @@
 #include "catalogue/VariableTable.h"
 #include "catalogue/Words.h"
 #include "resources/ThemeResources.h"
-#include "resources/kept/KeptValue.h"
 
 #include <QtCore/QStringBuilder>
 
@@ -58,16 +57,12 @@ KindWord::KindWord(QString name)
 QBrush composedBrush(ComposedWidget widget, const KindWord &kind, StateWord state, BrushField field,
                      bool enabled)
 {
-    const auto lookUp = [&] {
-        return ThemeResources::getBrush(
-            Words::variable(nameOf(widget, kind.name(), state, field), enabled));
-    };
+    const auto name = [&] { return nameOf(widget, kind.name(), state, field); };
     if (kind.index() < 0) {
-        return lookUp();
+        return ThemeResources::getBrush(Words::twin(name(), enabled));
     }
-    using Table = VariableTable<QBrush, brushCount>;
-    static ProcessCached<Table> table([] { return Table(); });
-    return table.value().value(indexOf(widget, kind.index(), state, field), enabled, lookUp);
+    static VariableTable<BrushKind, brushCount> table;
+    return table.value(indexOf(widget, kind.index(), state, field), enabled, name);
 }
 
 } // namespace TARN

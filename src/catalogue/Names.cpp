@@ -1,9 +1,6 @@
 #include "catalogue/Names.h"
 
 #include "catalogue/VariableTable.h"
-#include "catalogue/Words.h"
-#include "resources/ThemeResources.h"
-#include "resources/kept/KeptValue.h"
 
 #include <array>
 
@@ -49,20 +46,14 @@ const QString &nameOf(ColorName color)
 
 const QBrush &themeBrush(BrushName brush, bool enabled)
 {
-    static ProcessCached<VariableTable<QBrush, brushCount>> table(
-        [] { return VariableTable<QBrush, brushCount>(); });
-    return table.value().value(static_cast<std::size_t>(brush), enabled, [brush, enabled] {
-        return ThemeResources::getBrush(Words::variable(nameOf(brush), enabled));
-    });
+    static VariableTable<BrushKind, brushCount> table;
+    return table.value(static_cast<std::size_t>(brush), enabled, [brush] { return nameOf(brush); });
 }
 
 const QColor &themeColor(ColorName color, bool enabled)
 {
-    static ProcessCached<VariableTable<QColor, colorCount>> table(
-        [] { return VariableTable<QColor, colorCount>(); });
-    return table.value().value(static_cast<std::size_t>(color), enabled, [color, enabled] {
-        return ThemeResources::getColor(Words::variable(nameOf(color), enabled));
-    });
+    static VariableTable<ColorKind, colorCount> table;
+    return table.value(static_cast<std::size_t>(color), enabled, [color] { return nameOf(color); });
 }
 
 } // namespace TARN

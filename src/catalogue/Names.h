@@ -24,8 +24,9 @@ enum class ColorName : quint16 {
 const QString &nameOf(BrushName brush);
 const QString &nameOf(ColorName color);
 
-/// Return the theme's brush or colour; its disabled twin unless \a enabled. The references stay
-/// valid for the life of the process.
+/// Return the theme's brush or colour; its disabled twin unless \a enabled. The references are
+/// valid until the next theme is applied under "appLiveThemeSwitch"; without that property, for the
+/// life of the process.
 const QBrush &themeBrush(BrushName brush, bool enabled);
 const QColor &themeColor(ColorName color, bool enabled);
 

@@ -1,34 +1,52 @@
 #pragma once
 
+#include "catalogue/Words.h"
 #include "resources/variables/LookUps.h"
+#include "resources/variables/Snapshot.h"
+#include "resources/variables/ThemeGeneration.h"
 
 #include <QtCore/QCoreApplication>
 
 #include <array>
-#include <optional>
 
 namespace TARN {
 
-/// The values of variables and their disabled twins by index: asking for one by name takes longer
-/// than painting with it. To be held in a ProcessCached value, as all that is kept.
-template <typename T, std::size_t Count>
+/// Where the variables of one kind and their disabled twins stand in the snapshot, by index: asking
+/// for one by its name takes longer than painting with it.
+template <typename Kind, std::size_t Count>
 class VariableTable
 {
 public:
-    /// Returns the value at \a index; on its first use it is what \a lookUp returns.
-    template <typename LookUp>
-    const T &value(std::size_t index, bool enabled, LookUp lookUp)
+    using Value = typename Kind::Value;
+
+    /// Returns the variable at \a index, whose name \a nameOf() returns; a default-constructed
+    /// value when there is none. Valid until the next ThemeGeneration starts.
+    template <typename NameOf>
+    const Value &value(std::size_t index, bool enabled, NameOf nameOf)
     {
-        std::optional<T> &entry = m_values.at(2 * index + std::size_t(enabled));
-        // Without an application nothing is published yet. An observer is to hear of every use.
-        if (!entry || !QCoreApplication::instance() || Q_UNLIKELY(lookUpObserver)) {
-            entry = lookUp();
+        if (Q_UNLIKELY(m_generation != ThemeGeneration::current())) {
+            m_values.fill(nullptr);
+            m_generation = ThemeGeneration::current();
         }
-        return *entry;
+        const Value *&kept = m_values.at(2 * index + std::size_t(enabled));
+        // Without an application nothing is published. An observer is to hear of every use.
+        if (Q_UNLIKELY(!kept || !QCoreApplication::instance() || lookUpObserver)) {
+            const Value *found = findVariable<Kind>(Words::twin(nameOf(), enabled));
+            kept = found || !QCoreApplication::instance() ? found : &none();
+            return found ? *found : none();
+        }
+        return *kept;
     }
 
 private:
-    std::array<std::optional<T>, 2 * Count> m_values;
+    static const Value &none()
+    {
+        static const Value none{};
+        return none;
+    }
+
+    std::array<const Value *, 2 * Count> m_values{};
+    ThemeGeneration m_generation;
 };
 
 } // namespace TARN

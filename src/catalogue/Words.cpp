@@ -10,12 +10,9 @@ constexpr QLatin1String brush = word("Brush");
 
 } // namespace
 
-QString variable(QString name, bool enabled)
+QString twin(const QString &name, bool enabled)
 {
-    if (!enabled) {
-        name += disabled;
-    }
-    return name;
+    return enabled ? name : name % disabled;
 }
 
 QString buttonBrush(const QString &toggleWord, const QString &kind, const QString &state,

@@ -46,7 +46,7 @@ inline constexpr std::array fields{background, border, foreground};
 inline constexpr QLatin1String disabled = word("Disabled");
 
 /// Returns \a name, or the name of its disabled twin unless \a enabled.
-QString variable(QString name, bool enabled);
+QString twin(const QString &name, bool enabled);
 
 /// Returns the name of the brush that paints the \a field of a button, say
 /// "ToggleButtonPrimaryCheckedHoverBorderBrush". \a toggleWord and \a kind may be empty.

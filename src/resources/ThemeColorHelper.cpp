@@ -5,7 +5,7 @@
 #include "resources/ThemeResources.h"
 #include "resources/kept/KeptValue.h"
 #include "resources/kept/SlotCache.h"
-#include "resources/variables/VariablePath.h"
+#include "resources/variables/PublishedVariables.h"
 
 #include <utility>
 

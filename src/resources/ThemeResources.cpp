@@ -2,7 +2,8 @@
 
 #include "resources/kept/KeptValue.h"
 #include "resources/variables/LookUps.h"
-#include "resources/variables/VariableGroup.h"
+#include "resources/variables/PublishedVariables.h"
+#include "resources/variables/Snapshot.h"
 #include "resources/variables/VariableKeyIndex.h"
 #include "resources/variables/VariablePath.h"
 
@@ -14,27 +15,13 @@ namespace TARN {
 
 namespace {
 
-template <typename T>
-VariableGroup<T> publishedGroup(const char *propertyName, const QString &group)
+/// Returns the variable \a name of \a Kind; a default-constructed value when there is none.
+template <typename Kind>
+typename Kind::Value valueOf(const QString &name)
 {
-    return VariableGroup<T>(publishedVariables(propertyName).value(group).toMap());
-}
-
-/// Returns the variable \a name of a kept group. Each instance of this template keeps the one
-/// group that \a Prefix names, in the property that \a PropertyName names.
-template <typename T, const QString &(*Prefix)(),
-          const char *(*PropertyName)() = ThemeResources::getThemeVariablePropertyName>
-T keptVariable(const QString &name, const T &withoutApplication)
-{
-    if (Q_UNLIKELY(lookUpObserver)) {
-        lookUpObserver(Prefix(), name);
-    }
-    if (!QCoreApplication::instance()) {
-        return withoutApplication;
-    }
-    static ProcessCached<VariableGroup<T>> group(
-        [] { return publishedGroup<T>(PropertyName(), Prefix()); });
-    return group.value().value(name);
+    const auto *variable = findVariable<Kind>(name);
+    // Not a constant: the default of fonts changes with time.
+    return variable ? *variable : typename Kind::Value();
 }
 
 template <typename T>
@@ -133,33 +120,34 @@ QVariant ThemeResources::getThemeVar(const QString &path, const QVariant &defaul
 
 QColor ThemeResources::getColor(const QString &name)
 {
-    return keptVariable<QColor, getColorsVarPrefix>(name, QColor());
+    return valueOf<ColorKind>(name);
 }
 
 QBrush ThemeResources::getBrush(const QString &name)
 {
-    return keptVariable<QBrush, getBrushesVarPrefix>(name, QBrush());
+    return valueOf<BrushKind>(name);
 }
 
 QFont ThemeResources::getFont(const QString &name)
 {
-    return keptVariable<QFont, getFontsVarPrefix>(name, QFont());
+    return valueOf<FontKind>(name);
 }
 
 double ThemeResources::getOpacity(const QString &name)
 {
-    return keptVariable<double, getOpacitiesVarPrefix>(name, 1.0);
+    const double opacity = valueOf<OpacityKind>(name);
+    return QCoreApplication::instance() ? opacity : 1.0;
 }
 
 double ThemeResources::getCornerRadius(const QString &name)
 {
-    return keptVariable<double, getCornerRadiusVarPrefix>(name, 0.0);
+    return valueOf<CornerRadiusKind>(name);
 }
 
 int ThemeResources::getDisabledFactor(const QString &name)
 {
-    return keptVariable<int, getDisabledFactorsVarPrefix, getInternalThemeVariablePropertyName>(
-        name, 100);
+    const int factor = valueOf<DisabledFactorKind>(name);
+    return QCoreApplication::instance() ? factor : 100;
 }
 
 QStringList ThemeResources::getColors(const QRegularExpression &pattern)

@@ -263,12 +263,12 @@ QPalette BaseStyle::generateWinBorderPalette(const QPalette &pal) const
 
 QBrush BaseStyle::getBrush(QString name, bool enabled)
 {
-    return ThemeResources::getBrush(Words::variable(std::move(name), enabled));
+    return ThemeResources::getBrush(Words::twin(name, enabled));
 }
 
 QColor BaseStyle::getColor(QString name, bool enabled)
 {
-    return ThemeResources::getColor(Words::variable(std::move(name), enabled));
+    return ThemeResources::getColor(Words::twin(name, enabled));
 }
 
 const QBrush &BaseStyle::getBorderBrush(bool enabled)

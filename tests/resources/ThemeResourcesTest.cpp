@@ -141,6 +141,18 @@ private Q_SLOTS:
         QCOMPARE(ThemeResources::getBrush(main), QBrush(QColor(0, 255, 0)));
     }
 
+    /// Who asks for ever new names does not fill the memory.
+    void unknownNamesAreNotKept()
+    {
+        publishVariables(
+            {{QStringLiteral("colors"), QVariantMap{{QStringLiteral("Known"), QColor(Qt::red)}}}});
+        QString name = QStringLiteral("Un%1").arg(QStringLiteral("known"));
+        QVERIFY(name.isDetached());
+        QVERIFY(!ThemeResources::getColor(name).isValid());
+        QVERIFY(name.isDetached());
+        QCOMPARE(ThemeResources::getColor(QStringLiteral("Known")), QColor(Qt::red));
+    }
+
     void everyGetterKeepsItsGroup()
     {
         const QString x = text("X");

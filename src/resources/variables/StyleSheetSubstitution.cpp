@@ -2,6 +2,7 @@
 
 #include "resources/ThemeResources.h"
 #include "resources/variables/LookUps.h"
+#include "resources/variables/PublishedVariables.h"
 #include "resources/variables/VariablePath.h"
 
 namespace TARN {

@@ -1,6 +1,5 @@
 #include "resources/variables/VariablePath.h"
 
-#include <QtCore/QCoreApplication>
 #include <QtCore/QStringList>
 
 namespace TARN {
@@ -21,12 +20,6 @@ QVariant getThemeVarInternal(const QMap<QString, QVariant> &map, const QString &
         current = current.toMap().value(parts.takeFirst());
     }
     return current.isValid() ? current : defaultValue;
-}
-
-QVariantMap publishedVariables(const char *propertyName)
-{
-    const QCoreApplication *app = QCoreApplication::instance();
-    return app ? app->property(propertyName).toMap() : QVariantMap();
 }
 
 } // namespace TARN

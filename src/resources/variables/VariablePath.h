@@ -10,8 +10,4 @@ namespace TARN {
 QVariant getThemeVarInternal(const QMap<QString, QVariant> &map, const QString &path,
                              const QVariant &defaultValue);
 
-/// Returns the application's variable map in the property \a propertyName; empty when there is no
-/// application object or nothing has been published.
-QVariantMap publishedVariables(const char *propertyName);
-
 } // namespace TARN
