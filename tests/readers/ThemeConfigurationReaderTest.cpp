@@ -1,3 +1,5 @@
+#include "readers/ConfigurationFile.h"
+
 #include <readers/ThemeConfigurationReader.h>
 #include <resources/ThemeResources.h>
 
@@ -5,7 +7,6 @@
 
 #include <support/MessageRecorder.h>
 #include <support/Text.h>
-#include <support/ThemeRepository.h>
 
 using TARN::ThemeConfigurationReader;
 using TARN::ThemeFont;
@@ -26,17 +27,7 @@ class ThemeConfigurationReaderTest : public QObject
     Q_OBJECT
 
 private:
-    ThemeRepository m_files;
-
-    ThemeConfigurationReader readText(const QByteArray &content) const
-    {
-        return ThemeConfigurationReader(m_files.write(text("config.xml"), content));
-    }
-
-    ThemeConfigurationReader read(const ThemeConfiguration &configuration) const
-    {
-        return readText(configuration.toXml());
-    }
+    ConfigurationFile m_file;
 
     static QVariantMap publishedFactors()
     {
@@ -51,7 +42,7 @@ private Q_SLOTS:
         configuration.colors = "<Color name='A'>#102030</Color>";
         configuration.brushes = "<SolidBrush name='B'>A</SolidBrush>";
         configuration.opacities = "<Opacity name='O'>0.5</Opacity>";
-        const ThemeConfigurationReader reader = read(configuration);
+        const ThemeConfigurationReader reader = m_file.read(configuration);
         QCOMPARE(reader.getStatus(), 0);
         QCOMPARE(reader.getColorsMap().value(text("A")), QColor(0x10, 0x20, 0x30));
         QCOMPARE(reader.getBrushesMap().value(text("B")), QBrush(QColor(0x10, 0x20, 0x30)));
@@ -67,7 +58,7 @@ private Q_SLOTS:
     void missingFile()
     {
         qApp->setProperty("theme_var_internal", 5);
-        const ThemeConfigurationReader reader(m_files.path(text("none.xml")));
+        const ThemeConfigurationReader reader(m_file.path(text("none.xml")));
         QCOMPARE(reader.getStatus(), 1);
         QVERIFY(reader.getColorsMap().isEmpty());
         QVERIFY(reader.getCornerRadiusMap().isEmpty());
@@ -80,7 +71,7 @@ private Q_SLOTS:
         ThemeConfiguration configuration;
         configuration.colors = "<Color name='A'>#102030</Color>";
         qApp->setProperty("theme_var_internal", 5);
-        const ThemeConfigurationReader reader = readText(configuration.toXml().chopped(3));
+        const ThemeConfigurationReader reader = m_file.readText(configuration.toXml().chopped(3));
         QCOMPARE(reader.getStatus(), 2);
         QVERIFY(reader.getColorsMap().isEmpty());
         QCOMPARE(reader.getFont().getFont(ThemeFont::Base), QFont());
@@ -90,7 +81,7 @@ private Q_SLOTS:
     void missingRootStillPublishesFactors()
     {
         qApp->setProperty("theme_var_internal", 5);
-        const ThemeConfigurationReader reader = readText("<config/>");
+        const ThemeConfigurationReader reader = m_file.readText("<config/>");
         QCOMPARE(reader.getStatus(), 2);
         const QVariantMap published = qApp->property("theme_var_internal").toMap();
         QCOMPARE(published.keys(), QStringList{text("factors")});
@@ -104,12 +95,12 @@ private Q_SLOTS:
                                 "<LargeSize>4</LargeSize></Font><Unknown>x</Unknown>"
                                 "<CornerRadius><SmallSize>1</SmallSize><BaseSize>1</BaseSize>"
                                 "<MediumSize>1</MediumSize><LargeSize>1</LargeSize></CornerRadius>";
-        const ThemeConfigurationReader reader =
-            readText("<Config>" + rest +
-                     "<Opacities><Opacity name='A'>1</Opacity></Opacities>"
-                     "<Opacities><Opacity name='B'>1</Opacity></Opacities>"
-                     "<Palette><ColorsList><Color name='A'>red</Color></ColorsList>"
-                     "<ColorsList><Color name='B'>red</Color></ColorsList></Palette></Config>");
+        const ThemeConfigurationReader reader = m_file.readText(
+            "<Config>" + rest +
+            "<Opacities><Opacity name='A'>1</Opacity></Opacities>"
+            "<Opacities><Opacity name='B'>1</Opacity></Opacities>"
+            "<Palette><ColorsList><Color name='A'>red</Color></ColorsList>"
+            "<ColorsList><Color name='B'>red</Color></ColorsList></Palette></Config>");
         QCOMPARE(reader.getStatus(), 0);
         QCOMPARE(names(reader.getOpacitiesMap()), QStringList{text("A")});
         QCOMPARE(names(reader.getColorsMap()), QStringList({text("A"), text("DisabledA")}));
@@ -118,14 +109,14 @@ private Q_SLOTS:
     void orderOfTheSectionsDoesNotMatter()
     {
         const ThemeConfiguration rest;
-        const ThemeConfigurationReader reader =
-            readText("<Config><Palette>"
-                     "<BrushesList><SolidBrush name='B'>A</SolidBrush></BrushesList>"
-                     "<ColorsList><Color name='A'>#202020</Color></ColorsList></Palette>"
-                     "<CornerRadius>" +
-                     rest.cornerRadii + "</CornerRadius><Font>" + rest.font +
-                     "</Font><Factors><Factor name='DarkBackgroundDisableFactor'>200</Factor>"
-                     "</Factors></Config>");
+        const ThemeConfigurationReader reader = m_file.readText(
+            "<Config><Palette>"
+            "<BrushesList><SolidBrush name='B'>A</SolidBrush></BrushesList>"
+            "<ColorsList><Color name='A'>#202020</Color></ColorsList></Palette>"
+            "<CornerRadius>" +
+            rest.cornerRadii + "</CornerRadius><Font>" + rest.font +
+            "</Font><Factors><Factor name='DarkBackgroundDisableFactor'>200</Factor>"
+            "</Factors></Config>");
         QCOMPARE(reader.getStatus(), 0);
         QCOMPARE(reader.getColorsMap().value(text("DisabledA")), QColor(0x40, 0x40, 0x40));
         QCOMPARE(reader.getBrushesMap().value(text("DisabledB")), QBrush(QColor(0x40, 0x40, 0x40)));
@@ -138,7 +129,7 @@ private Q_SLOTS:
         qApp->setProperty(
             "theme_var_internal",
             QVariantMap{{text("factors"), QVariantMap{{text("B"), 2}}}, {text("other"), 3}});
-        read(configuration);
+        m_file.read(configuration);
         QCOMPARE(qApp->property("theme_var_internal").toMap().keys(), QStringList{text("factors")});
         QCOMPARE(publishedFactors().keys(), QStringList{text("A")});
     }
@@ -154,7 +145,7 @@ private Q_SLOTS:
                                "<Color name='ButtonForegroundColor'>#202020</Color>"
                                "<Color name='foreground'>#e0e0e0</Color>"
                                "<Color name='Foreground'>#e0e0e0</Color>";
-        const ThemeConfigurationReader reader = read(configuration);
+        const ThemeConfigurationReader reader = m_file.read(configuration);
         const QColor dark(0x20, 0x20, 0x20);
         const QColor light(0xe0, 0xe0, 0xe0);
         const auto &colors = reader.getColorsMap();
@@ -190,7 +181,7 @@ private Q_SLOTS:
         QFETCH(QStringList, names);
         ThemeConfiguration configuration;
         configuration.factors = factors;
-        const ThemeConfigurationReader reader = read(configuration);
+        const ThemeConfigurationReader reader = m_file.read(configuration);
         QCOMPARE(reader.getStatus(), status);
         QCOMPARE(reader.getDisabledFactorsMap().keys(), names);
         QCOMPARE(publishedFactors().keys(), names);
@@ -207,7 +198,7 @@ private Q_SLOTS:
         configuration.cornerRadii =
             "<SmallSize>x</SmallSize><BaseSize/><MediumSize>1.5</MediumSize>"
             "<LargeSize>-3</LargeSize>";
-        const ThemeConfigurationReader reader = read(configuration);
+        const ThemeConfigurationReader reader = m_file.read(configuration);
         QCOMPARE(reader.getStatus(), 0);
         QCOMPARE(reader.getDisabledFactorsMap(),
                  (QMap<QString, int>{{text("A"), 0}, {text("B"), 0}}));
@@ -218,187 +209,15 @@ private Q_SLOTS:
         QCOMPARE(reader.getCornerRadiusMap().value(text("LargeSize")), -3);
     }
 
-    void colorsAreSpelled_data()
-    {
-        QTest::addColumn<QByteArray>("spelling");
-        QTest::addColumn<QColor>("expected");
-        QTest::newRow("3 digits") << QByteArray("#123") << QColor(0x11, 0x22, 0x33);
-        QTest::newRow("6 digits") << QByteArray("#102030") << QColor(0x10, 0x20, 0x30);
-        QTest::newRow("alpha") << QByteArray("#80102030") << QColor(0x10, 0x20, 0x30, 0x80);
-        QTest::newRow("9 digits") << QByteArray("#100200300") << QColor(0x10, 0x20, 0x30);
-        QTest::newRow("12 digits") << QByteArray("#100020003000") << QColor(0x10, 0x20, 0x30);
-        QTest::newRow("keyword") << QByteArray("SteelBlue") << QColor(70, 130, 180);
-        QTest::newRow("transparent") << QByteArray("transparent") << QColor(0, 0, 0, 0);
-        QTest::newRow("with a comment")
-            << QByteArray("#10<!-- x -->2030") << QColor(0x10, 0x20, 0x30);
-    }
-
-    void colorsAreSpelled()
-    {
-        QFETCH(QByteArray, spelling);
-        QFETCH(QColor, expected);
-        ThemeConfiguration configuration;
-        configuration.colors = "<Color name='A'>" + spelling + "</Color>";
-        const ThemeConfigurationReader reader = read(configuration);
-        QCOMPARE(reader.getStatus(), 0);
-        QCOMPARE(reader.getColorsMap().value(text("A")).rgba(), expected.rgba());
-    }
-
     void otherElementsArePassedOver()
     {
         ThemeConfiguration configuration;
         configuration.colors = "<color name='B'>red</color><Color name='A'>red</Color><Other/>";
         configuration.opacities = "<Factor name='B'>1</Factor><Opacity name='A'>1</Opacity>";
-        const ThemeConfigurationReader reader = read(configuration);
+        const ThemeConfigurationReader reader = m_file.read(configuration);
         QCOMPARE(reader.getStatus(), 0);
         QCOMPARE(names(reader.getColorsMap()), QStringList({text("A"), text("DisabledA")}));
         QCOMPARE(names(reader.getOpacitiesMap()), QStringList{text("A")});
-    }
-
-    void faultyColorsEndTheirList_data()
-    {
-        QTest::addColumn<QByteArray>("colors");
-        const QByteArray sound = "<Color name='X'>red</Color>";
-        const QByteArray after = "<Color name='Later'>red</Color>";
-        QTest::newRow("no colour") << sound + "<Color name='A'>notacolour</Color>" + after;
-        QTest::newRow("blanks") << sound + "<Color name='A'> #ff0000 </Color>" + after;
-        QTest::newRow("no text") << sound + "<Color name='A'/>" + after;
-        QTest::newRow("no name") << sound + "<Color>blue</Color>" + after;
-        QTest::newRow("empty name") << sound + "<Color name=''>blue</Color>" + after;
-        QTest::newRow("duplicate") << sound + "<Color name='X'>blue</Color>" + after;
-        QTest::newRow("derived name") << sound + "<Color name='DisabledX'>blue</Color>" + after;
-    }
-
-    void faultyColorsEndTheirList()
-    {
-        QFETCH(QByteArray, colors);
-        ThemeConfiguration configuration;
-        configuration.colors = colors;
-        configuration.brushes = "<SolidBrush name='B'>X</SolidBrush>";
-        MessageRecorder messages;
-        const ThemeConfigurationReader reader = read(configuration);
-        QCOMPARE(messages.take(), QStringList());
-        QCOMPARE(reader.getStatus(), 2);
-        QCOMPARE(names(reader.getColorsMap()), QStringList({text("DisabledX"), text("X")}));
-        QCOMPARE(reader.getColorsMap().value(text("X")), QColor(Qt::red));
-        QCOMPARE(names(reader.getBrushesMap()), QStringList({text("B"), text("DisabledB")}));
-        QCOMPARE(reader.getCornerRadiusMap().size(), 4);
-    }
-
-    void disabledNameBeforeItsColorIsOverwritten()
-    {
-        ThemeConfiguration configuration;
-        configuration.factors = "<Factor name='LightBackgroundDisableFactor'>200</Factor>";
-        configuration.colors = "<Color name='DisabledX'>#010203</Color>"
-                               "<Color name='X'>white</Color>";
-        const ThemeConfigurationReader reader = read(configuration);
-        QCOMPARE(reader.getStatus(), 0);
-        QCOMPARE(reader.getColorsMap().value(text("DisabledX")), QColor(Qt::white).darker(200));
-        QVERIFY(reader.getColorsMap().contains(text("DisabledDisabledX")));
-    }
-
-    void disabledNamesBeforeTheirEntriesAreOverwrittenEverywhere()
-    {
-        ThemeConfiguration configuration;
-        configuration.factors = "<Factor name='LightBackgroundDisableFactor'>200</Factor>";
-        configuration.colors = "<Color name='A'>black</Color>"
-                               "<Color name='DisabledM'>#010203</Color>"
-                               "<Color name='DisabledX' internal='true'>#010203</Color>"
-                               "<Color name='X'>white</Color>";
-        configuration.brushes = "<SolidBrush name='DisabledX' internal='true'>A</SolidBrush>"
-                                "<SolidBrush name='X'>X</SolidBrush>";
-        const ThemeConfigurationReader reader = read(configuration);
-        QCOMPARE(reader.getStatus(), 0);
-        const QColor derived = QColor(Qt::white).darker(200);
-        QCOMPARE(reader.getColorsMap().value(text("DisabledX")), derived);
-        QCOMPARE(reader.getInternalColorsMap().value(text("DisabledX")), derived);
-        QCOMPARE(reader.getBrushesMap().value(text("DisabledX")), QBrush(derived));
-        QCOMPARE(reader.getInternalBrushesMap().value(text("DisabledX")), QBrush(derived));
-        // An entry that is merely named like a variant is an entry like any other.
-        QCOMPARE(reader.getColorsMap().value(text("DisabledM")), QColor(1, 2, 3));
-        QCOMPARE(names(reader.getInternalColorsMap()),
-                 QStringList({text("DisabledA"), text("DisabledDisabledM"),
-                              text("DisabledDisabledX"), text("DisabledX")}));
-    }
-
-    void brushesMayUseDisabledColors()
-    {
-        ThemeConfiguration configuration;
-        configuration.factors = "<Factor name='DarkBackgroundDisableFactor'>200</Factor>";
-        configuration.colors = "<Color name='A'>#202020</Color>";
-        configuration.brushes = "<SolidBrush name='B'>DisabledA</SolidBrush>";
-        const ThemeConfigurationReader reader = read(configuration);
-        QCOMPARE(reader.getStatus(), 0);
-        QCOMPARE(reader.getBrushesMap().value(text("B")), QBrush(QColor(0x40, 0x40, 0x40)));
-    }
-
-    void internalEntries()
-    {
-        ThemeConfiguration configuration;
-        configuration.colors = "<Color name='A' internal='true'>red</Color>"
-                               "<Color name='B' internal='True'>red</Color>"
-                               "<Color name='C' internal='1'>red</Color>"
-                               "<Color name='D'>red</Color>";
-        configuration.brushes = "<SolidBrush name='A' internal='true'>A</SolidBrush>"
-                                "<SolidBrush name='B' internal='True'>A</SolidBrush>";
-        const ThemeConfigurationReader reader = read(configuration);
-        QCOMPARE(reader.getStatus(), 0);
-        QCOMPARE(reader.getColorsMap().size(), 8);
-        QCOMPARE(names(reader.getInternalColorsMap()),
-                 QStringList({text("A"), text("DisabledA"), text("DisabledB"), text("DisabledC"),
-                              text("DisabledD")}));
-        QCOMPARE(names(reader.getInternalBrushesMap()),
-                 QStringList({text("A"), text("DisabledA"), text("DisabledB")}));
-        QCOMPARE(reader.getInternalColorsMap().value(text("DisabledD")),
-                 reader.getColorsMap().value(text("DisabledD")));
-    }
-
-    void faultyBrushesEndTheirList_data()
-    {
-        QTest::addColumn<QByteArray>("faulty");
-        QTest::newRow("unknown colour") << QByteArray("<SolidBrush name='Y'>NoColor</SolidBrush>");
-        QTest::newRow("unknown kind")
-            << QByteArray("<RadialGradientBrush name='Y'>A</RadialGradientBrush>");
-        QTest::newRow("no name") << QByteArray("<SolidBrush>A</SolidBrush>");
-        QTest::newRow("duplicate") << QByteArray("<SolidBrush name='X'>A</SolidBrush>");
-        QTest::newRow("derived name") << QByteArray("<SolidBrush name='DisabledX'>A</SolidBrush>");
-        QTest::newRow("faulty gradient")
-            << QByteArray("<LinearGradientBrush name='Y' startPoint='0;0' endPoint='0,1'/>");
-    }
-
-    void faultyBrushesEndTheirList()
-    {
-        QFETCH(QByteArray, faulty);
-        ThemeConfiguration configuration;
-        configuration.colors = "<Color name='A'>red</Color>";
-        configuration.brushes = "<!-- passed over --><SolidBrush name='X'>A</SolidBrush>" + faulty +
-                                "<SolidBrush name='Later'>A</SolidBrush>";
-        const ThemeConfigurationReader reader = read(configuration);
-        QCOMPARE(reader.getStatus(), 2);
-        QCOMPARE(names(reader.getBrushesMap()), QStringList({text("DisabledX"), text("X")}));
-        QCOMPARE(reader.getOpacitiesMap().size(), 0);
-        QCOMPARE(reader.getCornerRadiusMap().size(), 4);
-    }
-
-    void disabledBrushes()
-    {
-        ThemeConfiguration configuration;
-        configuration.factors = "<Factor name='DarkForegroundDisableFactor'>150</Factor>"
-                                "<Factor name='DarkBackgroundDisableFactor'>200</Factor>";
-        configuration.colors = "<Color name='A'>#202020</Color>";
-        configuration.brushes =
-            "<SolidBrush name='Fill'>A</SolidBrush><SolidBrush name='FillForeground'>A</SolidBrush>"
-            "<LinearGradientBrush name='Shade' startPoint='0,0' endPoint='0,1'>"
-            "<GradientStop offset='0'>A</GradientStop></LinearGradientBrush>";
-        const ThemeConfigurationReader reader = read(configuration);
-        QCOMPARE(reader.getStatus(), 0);
-        const QColor color(0x20, 0x20, 0x20);
-        const auto &brushes = reader.getBrushesMap();
-        QCOMPARE(brushes.value(text("DisabledFill")), QBrush(color.lighter(200)));
-        QCOMPARE(brushes.value(text("DisabledFillForeground")), QBrush(color.lighter(150)));
-        QCOMPARE(brushes.value(text("Shade")).style(), Qt::LinearGradientPattern);
-        const QColor single = brushes.value(text("Shade")).color();
-        QCOMPARE(brushes.value(text("DisabledShade")), QBrush(single.lighter(200)));
     }
 
     void opacitiesAreRead()
@@ -406,7 +225,7 @@ private Q_SLOTS:
         ThemeConfiguration configuration;
         configuration.opacities = "<Opacity name='A'>0.25</Opacity><Opacity name='A'>1</Opacity>"
                                   "<Opacity name='B'>1</Opacity>";
-        const ThemeConfigurationReader reader = read(configuration);
+        const ThemeConfigurationReader reader = m_file.read(configuration);
         QCOMPARE(reader.getStatus(), 2);
         QCOMPARE(reader.getOpacitiesMap(), (QMap<QString, double>{{text("A"), 0.25}}));
     }
@@ -439,7 +258,7 @@ private Q_SLOTS:
         QFETCH(QStringList, keys);
         ThemeConfiguration configuration;
         configuration.cornerRadii = section;
-        const ThemeConfigurationReader reader = read(configuration);
+        const ThemeConfigurationReader reader = m_file.read(configuration);
         QCOMPARE(reader.getStatus(), status);
         QCOMPARE(reader.getCornerRadiusMap().keys(), keys);
         if (keys.contains(text("MediumSize"))) {
@@ -453,19 +272,21 @@ private Q_SLOTS:
         const ThemeConfiguration configuration;
         QByteArray withoutRadii = configuration.toXml();
         withoutRadii.replace("CornerRadius", "Corners");
-        QCOMPARE(readText(withoutRadii).getStatus(), 2);
+        QCOMPARE(m_file.readText(withoutRadii).getStatus(), 2);
         QByteArray withoutFont = configuration.toXml();
         withoutFont.replace("<Family>", "<Families>").replace("</Family>", "</Families>");
-        const ThemeConfigurationReader reader = readText(withoutFont);
+        const ThemeConfigurationReader reader = m_file.readText(withoutFont);
         QCOMPARE(reader.getStatus(), 2);
         QCOMPARE(reader.getFont().getFont(ThemeFont::Base), QFont());
         QCOMPARE(reader.getCornerRadiusMap().size(), 4);
-        QCOMPARE(readText("<Config><CornerRadius><SmallSize>1</SmallSize><BaseSize>1</BaseSize>"
+        QCOMPARE(
+            m_file
+                .readText("<Config><CornerRadius><SmallSize>1</SmallSize><BaseSize>1</BaseSize>"
                           "<LargeSize>1</LargeSize></CornerRadius><Font><Family/><SmallSize>1"
                           "</SmallSize><BaseSize>1</BaseSize><MediumSize>1</MediumSize>"
                           "<LargeSize>1</LargeSize></Font></Config>")
-                     .getStatus(),
-                 0);
+                .getStatus(),
+            0);
     }
 };
 
