@@ -1,7 +1,5 @@
 #pragma once
 
-#include <mox_common_theme_export.h>
-
 #include <QtCore/QVector>
 
 #include <iterator>
@@ -73,7 +71,7 @@ struct PropertySection
 namespace Catalogue {
 
 /// Returns all properties, each in one row at least.
-MOX_COMMON_THEME_EXPORT const QVector<PropertySection> &propertySections();
+const QVector<PropertySection> &propertySections();
 
 } // namespace Catalogue
 

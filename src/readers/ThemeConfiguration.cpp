@@ -1,17 +1,17 @@
-#include "readers/ThemeConfigurationReader.h"
+#include "readers/ThemeConfiguration.h"
 
+#include "readers/BrushReader.h"
 #include "readers/ConfigurationTags.h"
 #include "readers/ElementText.h"
-#include "readers/LinearGradientBrushReader.h"
-#include "readers/SolidBrushReader.h"
-#include "readers/xml/XmlFile.h"
-#include "resources/ThemeColorHelper.h"
-#include "resources/ThemeResources.h"
-#include "resources/variables/VariantMap.h"
+#include "readers/ThemeConfigurationReader.h"
+#include "resources/DisabledFactors.h"
 
-#include <QtCore/QCoreApplication>
 #include <QtCore/QStringBuilder>
+#include <QtXml/QDomDocument>
 #include <QtXml/QDomElement>
+
+#include <algorithm>
+#include <iterator>
 
 namespace TARN {
 
@@ -89,10 +89,10 @@ void insertDisabledVariants(QMap<QString, T> &values, QMap<QString, T> &internal
     internalValues = variants;
 }
 
-/// Returns the disabled variant of the colour of the entry \a name.
-QColor disabledColor(const QString &name, const QColor &color)
+/// Tells whether the entry \a name is the colour of a text or an icon.
+bool isForeground(const QString &name)
 {
-    return ThemeColorHelper::disabled(color, name.contains(QStringLiteral("Foreground")));
+    return name.contains(QStringLiteral("Foreground"));
 }
 
 int fontWeight(const QString &text)
@@ -111,177 +111,120 @@ int fontWeight(const QString &text)
     return weights.value(text, QFont::Normal);
 }
 
-void publishDisabledFactors(const QMap<QString, int> &factors)
-{
-    QCoreApplication *app = QCoreApplication::instance();
-    if (!app) {
-        return;
-    }
-    const QVariantMap variables{
-        {ThemeResources::getDisabledFactorsVarPrefix(), fillQVariantMap(factors)}};
-    app->setProperty(ThemeResources::getInternalThemeVariablePropertyName(), variables);
-}
-
 } // namespace
 
-// The readers live as long as the process; there is nothing to gain from deleting them at its end.
-QMap<QString, BrushReader *> ThemeConfigurationReader::s_brushReaders{
-    {SolidBrushTag, new SolidBrushReader},
-    {LinearGradientBrushTag, new LinearGradientBrushReader},
+/// Reads the sections of a configuration file. Each of the readers is given the section's element,
+/// which may be null, and returns whether it was read without fault.
+class ConfigurationSections
+{
+public:
+    explicit ConfigurationSections(ThemeConfiguration &result)
+        : m_result(result)
+    {
+    }
+
+    bool readDisabledFactors(const QDomElement &section);
+    bool readPalette(const QDomElement &section, const DisableColor &disable);
+    bool readFonts(const QDomElement &section);
+    bool readOpacities(const QDomElement &section);
+    bool readCornerRadius(const QDomElement &section);
+
+private:
+    bool readColors(const QDomElement &list, const DisableColor &disable);
+    bool readBrushes(const QDomElement &list, const DisableColor &disable);
+    bool readFont(const QDomElement &section, const QString &sizeTag, const QString &family,
+                  ThemeFont::ThemeFontId id);
+
+    ThemeConfiguration &m_result;
 };
 
-ThemeConfigurationReader::ThemeConfigurationReader(const QString &path)
+bool ConfigurationSections::readDisabledFactors(const QDomElement &section)
 {
-    m_status = readXmlFile(path, m_document);
-    if (m_status != ReadFine) {
-        return;
-    }
-    const QDomElement root = m_document.firstChildElement(ConfigRootTag);
-    // The factors come first: the disabled colours that the palette derives depend on them.
-    const bool sectionsFine[] = {
-        readDisabledFactors(root.firstChildElement(FactorsRootTag)),
-        readPalette(root.firstChildElement(PaletteRootTag)),
-        readFonts(root.firstChildElement(FontRootTag)),
-        readOpacities(root.firstChildElement(OpacitiesRootTag)),
-        readCornerRadius(root.firstChildElement(CornerRadiusRootTag)),
-    };
-    for (const bool sectionFine : sectionsFine) {
-        if (!sectionFine) {
-            m_status = Faulty;
-        }
-    }
-}
-
-int ThemeConfigurationReader::getStatus() const
-{
-    return m_status;
-}
-
-const QMap<QString, QColor> &ThemeConfigurationReader::getColorsMap() const
-{
-    return m_colors;
-}
-
-const QMap<QString, QColor> &ThemeConfigurationReader::getInternalColorsMap() const
-{
-    return m_internalColors;
-}
-
-const QMap<QString, QBrush> &ThemeConfigurationReader::getBrushesMap() const
-{
-    return m_brushes;
-}
-
-const QMap<QString, QBrush> &ThemeConfigurationReader::getInternalBrushesMap() const
-{
-    return m_internalBrushes;
-}
-
-const QMap<QString, double> &ThemeConfigurationReader::getOpacitiesMap() const
-{
-    return m_opacities;
-}
-
-const QMap<QString, int> &ThemeConfigurationReader::getCornerRadiusMap() const
-{
-    return m_cornerRadii;
-}
-
-const QMap<QString, int> &ThemeConfigurationReader::getDisabledFactorsMap() const
-{
-    return m_disabledFactors;
-}
-
-ThemeFont ThemeConfigurationReader::getFont() const
-{
-    return m_font;
-}
-
-bool ThemeConfigurationReader::readDisabledFactors(const QDomElement &section)
-{
-    const bool fine = readList(section, FactorTag, [this](const QDomElement &element) {
-        return insertUnique(m_disabledFactors, element.attribute(NameAttribute),
+    return readList(section, FactorTag, [this](const QDomElement &element) {
+        return insertUnique(m_result.disabledFactors, element.attribute(NameAttribute),
                             element.text().toInt());
     });
-    publishDisabledFactors(m_disabledFactors);
-    return fine;
 }
 
-bool ThemeConfigurationReader::readPalette(const QDomElement &section)
+bool ConfigurationSections::readPalette(const QDomElement &section, const DisableColor &disable)
 {
-    const bool colorsFine = readColors(section.firstChildElement(ColorsListTag));
-    const bool brushesFine = readBrushes(section.firstChildElement(BrushesListTag));
+    const bool colorsFine = readColors(section.firstChildElement(ColorsListTag), disable);
+    const bool brushesFine = readBrushes(section.firstChildElement(BrushesListTag), disable);
     return colorsFine && brushesFine;
 }
 
-bool ThemeConfigurationReader::readColors(const QDomElement &list)
+bool ConfigurationSections::readColors(const QDomElement &list, const DisableColor &disable)
 {
     const bool fine = readList(list, ColorTag, [this](const QDomElement &element) {
         QColor color;
         color.setNamedColor(elementText(element));
-        return color.isValid() && insertEntry(m_colors, m_internalColors, element, color);
+        return color.isValid() &&
+               insertEntry(m_result.colors, m_result.internalColors, element, color);
     });
-    insertDisabledVariants(m_colors, m_internalColors, disabledColor);
-    return fine;
-}
-
-bool ThemeConfigurationReader::readBrushes(const QDomElement &list)
-{
-    const bool fine = readList(list, QString(), [this](const QDomElement &element) {
-        const BrushReader *reader = s_brushReaders.value(element.tagName());
-        bool ok = false;
-        const QBrush brush = reader ? reader->readBrush(element, m_colors, ok) : QBrush();
-        return ok && insertEntry(m_brushes, m_internalBrushes, element, brush);
-    });
-    // A gradient has one disabled variant like every other brush, and it is plain.
-    insertDisabledVariants(m_brushes, m_internalBrushes,
-                           [](const QString &name, const QBrush &brush) {
-                               return QBrush(disabledColor(name, brush.color()));
+    insertDisabledVariants(m_result.colors, m_result.internalColors,
+                           [&disable](const QString &name, const QColor &color) {
+                               return disable(color, isForeground(name));
                            });
     return fine;
 }
 
-bool ThemeConfigurationReader::readFonts(const QDomElement &section)
+bool ConfigurationSections::readBrushes(const QDomElement &list, const DisableColor &disable)
+{
+    const bool fine = readList(list, QString(), [this](const QDomElement &element) {
+        const BrushReader *reader =
+            ThemeConfigurationReader::s_brushReaders.value(element.tagName());
+        bool ok = false;
+        const QBrush brush = reader ? reader->readBrush(element, m_result.colors, ok) : QBrush();
+        return ok && insertEntry(m_result.brushes, m_result.internalBrushes, element, brush);
+    });
+    // A gradient has one disabled variant like every other brush, and it is plain.
+    insertDisabledVariants(m_result.brushes, m_result.internalBrushes,
+                           [&disable](const QString &name, const QBrush &brush) {
+                               return QBrush(disable(brush.color(), isForeground(name)));
+                           });
+    return fine;
+}
+
+bool ConfigurationSections::readFonts(const QDomElement &section)
 {
     const QDomElement familyElement = section.firstChildElement(FontFamilyTag);
     if (familyElement.isNull()) {
         return false;
     }
     const QString family = familyElement.text();
-    return readFont(section, SmallSizeTag, family, ThemeFont::Small, m_font) &&
-           readFont(section, BaseSizeTag, family, ThemeFont::Base, m_font) &&
-           readFont(section, MediumSizeTag, family, ThemeFont::Medium, m_font) &&
-           readFont(section, LargeSizeTag, family, ThemeFont::Large, m_font);
+    return readFont(section, SmallSizeTag, family, ThemeFont::Small) &&
+           readFont(section, BaseSizeTag, family, ThemeFont::Base) &&
+           readFont(section, MediumSizeTag, family, ThemeFont::Medium) &&
+           readFont(section, LargeSizeTag, family, ThemeFont::Large);
 }
 
-bool ThemeConfigurationReader::readFont(const QDomElement &section, const QString &sizeTag,
-                                        const QString &family, ThemeFont::ThemeFontId id,
-                                        ThemeFont &font)
+bool ConfigurationSections::readFont(const QDomElement &section, const QString &sizeTag,
+                                     const QString &family, ThemeFont::ThemeFontId id)
 {
     bool ok = false;
     const int size = section.firstChildElement(sizeTag).text().toInt(&ok);
     if (ok) {
         const int weight = fontWeight(section.firstChildElement(FontWeightTag).text());
-        font.setFont(id, QFont(family, size, weight, false));
+        m_result.font.setFont(id, QFont(family, size, weight, false));
     }
     return ok;
 }
 
-bool ThemeConfigurationReader::readOpacities(const QDomElement &section)
+bool ConfigurationSections::readOpacities(const QDomElement &section)
 {
     return readList(section, OpacityTag, [this](const QDomElement &element) {
-        return insertUnique(m_opacities, element.attribute(NameAttribute),
+        return insertUnique(m_result.opacities, element.attribute(NameAttribute),
                             element.text().toDouble());
     });
 }
 
-bool ThemeConfigurationReader::readCornerRadius(const QDomElement &section)
+bool ConfigurationSections::readCornerRadius(const QDomElement &section)
 {
     const auto readSize = [this, &section](const QString &tag, const QDomElement &required) {
         if (required.isNull()) {
             return false;
         }
-        m_cornerRadii.insert(tag, section.firstChildElement(tag).text().toInt());
+        m_result.cornerRadii.insert(tag, section.firstChildElement(tag).text().toInt());
         return true;
     };
     // "MediumSize" may be left out of a section, for 0.
@@ -289,6 +232,42 @@ bool ThemeConfigurationReader::readCornerRadius(const QDomElement &section)
            readSize(BaseSizeTag, section.firstChildElement(BaseSizeTag)) &&
            readSize(MediumSizeTag, section) &&
            readSize(LargeSizeTag, section.firstChildElement(LargeSizeTag));
+}
+
+DisableColor disablingBy(const QMap<QString, int> &factors)
+{
+    const auto kept =
+        DisabledFactors::from([&factors](const QString &name) { return factors.value(name); });
+    return [kept](const QColor &color, bool foreground) {
+        return disabledColor(color, foreground, kept);
+    };
+}
+
+ThemeConfiguration readConfiguration(const QString &path, const ChooseDisabling &chooseDisabling)
+{
+    ThemeConfiguration result;
+    QDomDocument document;
+    result.status = readXmlFile(path, document);
+    if (result.status != ReadFine) {
+        return result;
+    }
+    const QDomElement root = document.firstChildElement(ConfigRootTag);
+    ConfigurationSections sections(result);
+    // The factors come first: the disabled colours that the palette derives depend on them.
+    const bool factorsFine = sections.readDisabledFactors(root.firstChildElement(FactorsRootTag));
+    const DisableColor disable = chooseDisabling(result.disabledFactors);
+    const bool sectionsFine[] = {
+        factorsFine,
+        sections.readPalette(root.firstChildElement(PaletteRootTag), disable),
+        sections.readFonts(root.firstChildElement(FontRootTag)),
+        sections.readOpacities(root.firstChildElement(OpacitiesRootTag)),
+        sections.readCornerRadius(root.firstChildElement(CornerRadiusRootTag)),
+    };
+    const auto isFine = [](bool sectionFine) { return sectionFine; };
+    if (!std::all_of(std::begin(sectionsFine), std::end(sectionsFine), isFine)) {
+        result.status = Faulty;
+    }
+    return result;
 }
 
 } // namespace TARN

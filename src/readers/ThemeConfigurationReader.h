@@ -7,7 +7,6 @@
 #include <QtCore/QString>
 #include <QtGui/QBrush>
 #include <QtGui/QColor>
-#include <QtXml/QDomDocument>
 
 class BrushReader;
 
@@ -46,15 +45,7 @@ public:
     ThemeFont getFont() const;
 
 private:
-    bool readDisabledFactors(const QDomElement &section);
-    bool readPalette(const QDomElement &section);
-    bool readColors(const QDomElement &list);
-    bool readBrushes(const QDomElement &list);
-    bool readFonts(const QDomElement &section);
-    bool readFont(const QDomElement &section, const QString &sizeTag, const QString &family,
-                  ThemeFont::ThemeFontId id, ThemeFont &font);
-    bool readOpacities(const QDomElement &section);
-    bool readCornerRadius(const QDomElement &section);
+    friend class ConfigurationSections;
 
     int m_status = 0;
     QMap<QString, QColor> m_colors;
@@ -65,9 +56,6 @@ private:
     QMap<QString, int> m_cornerRadii;
     QMap<QString, int> m_disabledFactors;
     ThemeFont m_font;
-    // Lives as long as the reader: freeing its thousands of nodes and allocating again costs the
-    // application of a theme more than holding them does.
-    QDomDocument m_document;
 
     static QMap<QString, BrushReader *> s_brushReaders;
 };

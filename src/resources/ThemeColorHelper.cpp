@@ -2,6 +2,7 @@
 
 #include "common_utils/Helpers.h"
 #include "common_utils/IconThemeState.h"
+#include "resources/DisabledFactors.h"
 #include "resources/ThemeResources.h"
 #include "resources/kept/KeptValue.h"
 #include "resources/kept/SlotCache.h"
@@ -12,25 +13,6 @@
 namespace TARN {
 
 namespace {
-
-/// Colours up to this perceived brightness are dark.
-constexpr int brightestDarkColor = 130;
-
-struct DisabledFactors
-{
-    int lightForeground;
-    int lightBackground;
-    int darkForeground;
-    int darkBackground;
-};
-
-DisabledFactors readDisabledFactors()
-{
-    return {ThemeResources::getDisabledFactor(QStringLiteral("LightForegroundDisableFactor")),
-            ThemeResources::getDisabledFactor(QStringLiteral("LightBackgroundDisableFactor")),
-            ThemeResources::getDisabledFactor(QStringLiteral("DarkForegroundDisableFactor")),
-            ThemeResources::getDisabledFactor(QStringLiteral("DarkBackgroundDisableFactor"))};
-}
 
 /// The colour that the icon set draws its foreground in.
 QBrush referenceForeground()
@@ -91,12 +73,9 @@ QIcon tintedIcon(const Tint &tint)
 
 QColor ThemeColorHelper::disabled(const QColor &color, bool foreground)
 {
-    static ProcessCached<DisabledFactors> kept(readDisabledFactors);
-    const DisabledFactors &factors = kept.value();
-    if (Helpers::getPerceivedBrightness(color) > brightestDarkColor) {
-        return color.darker(foreground ? factors.lightForeground : factors.lightBackground);
-    }
-    return color.lighter(foreground ? factors.darkForeground : factors.darkBackground);
+    static ProcessCached<DisabledFactors> factors(
+        [] { return DisabledFactors::from(ThemeResources::getDisabledFactor); });
+    return disabledColor(color, foreground, factors.value());
 }
 
 QIcon ThemeColorHelper::getModifiedIconWithForegroundBrush(QIcon icon, QBrush brush)

@@ -60,7 +60,7 @@ QString decodedText(QIODevice &device)
     return QString::fromUtf8(device.readAll());
 }
 
-int readSource(QIODevice &device, QDomDocument &document, XmlSource &source)
+ReaderStatus readSource(QIODevice &device, QDomDocument &document, XmlSource &source)
 {
     source.text = decodedText(device);
     if (source.text.size() > maxTextSize || !isSafeXml(source.text)) {
@@ -76,19 +76,19 @@ int readSource(QIODevice &device, QDomDocument &document, XmlSource &source)
 
 } // namespace
 
-int readXml(QIODevice &device, QDomDocument &document)
+ReaderStatus readXml(QIODevice &device, QDomDocument &document)
 {
     XmlSource source;
     return readSource(device, document, source);
 }
 
-int readXmlFile(const QString &path, QDomDocument &document)
+ReaderStatus readXmlFile(const QString &path, QDomDocument &document)
 {
     XmlSource source;
     return readXmlFile(path, document, source);
 }
 
-int readXmlFile(const QString &path, QDomDocument &document, XmlSource &source)
+ReaderStatus readXmlFile(const QString &path, QDomDocument &document, XmlSource &source)
 {
     // Opening a pipe waits for a writer, and a device may have no end.
     if (!QFileInfo(path).isFile()) {

@@ -20,10 +20,10 @@ enum ReaderStatus {
 /// Returns CannotOpen for what cannot be opened as a regular file, and leaves \a document alone.
 /// Returns Faulty for what is not well-formed; \a document then holds what was read before the
 /// fault, or nothing when the parser could not be trusted with the file (see isSafeXml()).
-int readXmlFile(const QString &path, QDomDocument &document);
+ReaderStatus readXmlFile(const QString &path, QDomDocument &document);
 
 /// The same for what \a device, which is open, holds from where it stands.
-int readXml(QIODevice &device, QDomDocument &document);
+ReaderStatus readXml(QIODevice &device, QDomDocument &document);
 
 /// What a theme file holds besides its document, for those who tell people about it.
 struct XmlSource
@@ -35,6 +35,6 @@ struct XmlSource
 };
 
 /// The same as without \a source, which is filled with what is known of the file.
-int readXmlFile(const QString &path, QDomDocument &document, XmlSource &source);
+ReaderStatus readXmlFile(const QString &path, QDomDocument &document, XmlSource &source);
 
 } // namespace TARN
