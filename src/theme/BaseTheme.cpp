@@ -94,6 +94,11 @@ void BaseTheme::customize(QApplication *app)
     publishVariables(*app, configuration);
     cleanSwitch.variablesPublished();
 
+    if (cleanSwitch.isActive()) {
+        // Widgets that fetch icons from a new style are to get the theme's.
+        addImages(footprint, m_directory, getName());
+    }
+
     const QFont font = configuration.getFont().getFont(ThemeFont::Base);
     if (!qEnvironmentVariableIsSet("TARN_USE_NATIVE_STYLE")) {
         if (mapping.getStatus() != ReadFine) {
@@ -104,7 +109,9 @@ void BaseTheme::customize(QApplication *app)
     }
     QApplication::setFont(font);
 
-    addImages(footprint, m_directory, getName());
+    if (!cleanSwitch.isActive()) {
+        addImages(footprint, m_directory, getName());
+    }
     cleanSwitch.finish();
 }
 

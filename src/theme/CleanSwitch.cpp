@@ -115,9 +115,7 @@ void fitCloseButtons()
     }
 }
 
-/// Has widgets that fetch icons from their style, when they are made or when the style changes,
-/// fetch them again: when it changed, the former theme's icons were gone and the new one's not yet
-/// there.
+/// Has widgets that fetch icons when the style changes fetch them, although it did not.
 void fetchIcons()
 {
     const QWidgetList widgets = QApplication::allWidgets();
@@ -125,8 +123,17 @@ void fetchIcons()
         if (qobject_cast<QMessageBox *>(widget) || qobject_cast<QDockWidget *>(widget)) {
             QEvent styleChange(QEvent::StyleChange);
             QCoreApplication::sendEvent(widget, &styleChange);
-        } else if (widget->inherits("QToolBarExtension")) {
-            // It fetches its icon when it is turned.
+        }
+    }
+}
+
+/// Has tool bars fetch the icon of their extension again: they do so when they are turned, and not
+/// when the style changes.
+void fetchExtensionIcons()
+{
+    const QWidgetList widgets = QApplication::allWidgets();
+    for (QWidget *widget : widgets) {
+        if (widget->inherits("QToolBarExtension")) {
             QEvent directionChange(QEvent::LayoutDirectionChange);
             QCoreApplication::sendEvent(widget, &directionChange);
         }
@@ -179,8 +186,9 @@ void CleanSwitch::variablesPublished() const
     }
 }
 
-void CleanSwitch::replaceStyleSheet(const QFont &font) const
+void CleanSwitch::replaceStyleSheet(const QFont &font)
 {
+    m_replacesStyle = true;
     if (m_active) {
         m_app.setStyleSheet(QString());
         QApplication::setFont(font);
@@ -196,7 +204,10 @@ void CleanSwitch::finish() const
         colorPlainLabels(m_plainLabels);
         colorPlainAreas(m_plainAreas);
         fitCloseButtons();
-        fetchIcons();
+        fetchExtensionIcons();
+        if (!m_replacesStyle) {
+            fetchIcons();
+        }
         repaintDocumentLinks(m_formerLink, QGuiApplication::palette().link());
     }
 }
