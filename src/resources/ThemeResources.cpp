@@ -1,9 +1,12 @@
 #include "resources/ThemeResources.h"
 
+#include "resources/images/ImageFiles.h"
 #include "resources/kept/KeptValue.h"
+#include "resources/variables/GroupNames.h"
 #include "resources/variables/LookUps.h"
 #include "resources/variables/PublishedVariables.h"
 #include "resources/variables/Snapshot.h"
+#include "resources/variables/StyleSheetSubstitution.h"
 #include "resources/variables/VariableKeyIndex.h"
 #include "resources/variables/VariablePath.h"
 
@@ -37,78 +40,67 @@ QString keyInGroup(const T &value, const QString &group)
 
 const char *ThemeResources::getThemeVariablePropertyName()
 {
-    return "theme_var";
+    return GroupNames::variables;
 }
 
 const char *ThemeResources::getInternalThemeVariablePropertyName()
 {
-    return "theme_var_internal";
+    return GroupNames::internalVariables;
 }
 
 const QString &ThemeResources::getColorsVarPrefix()
 {
-    static const QString prefix = QStringLiteral("colors");
-    return prefix;
+    return GroupNames::colors();
 }
 
 const QString &ThemeResources::getInternalColorsVarPrefix()
 {
-    static const QString prefix = QStringLiteral("internalColors");
-    return prefix;
+    return GroupNames::internalColors();
 }
 
 const QString &ThemeResources::getBrushesVarPrefix()
 {
-    static const QString prefix = QStringLiteral("brushes");
-    return prefix;
+    return GroupNames::brushes();
 }
 
 const QString &ThemeResources::getInternalBrushesVarPrefix()
 {
-    static const QString prefix = QStringLiteral("internalBrushes");
-    return prefix;
+    return GroupNames::internalBrushes();
 }
 
 const QString &ThemeResources::getFontsVarPrefix()
 {
-    static const QString prefix = QStringLiteral("fonts");
-    return prefix;
+    return GroupNames::fonts();
 }
 
 const QString &ThemeResources::getOpacitiesVarPrefix()
 {
-    static const QString prefix = QStringLiteral("opacities");
-    return prefix;
+    return GroupNames::opacities();
 }
 
 const QString &ThemeResources::getCornerRadiusVarPrefix()
 {
-    static const QString prefix = QStringLiteral("cornerRadius");
-    return prefix;
+    return GroupNames::cornerRadii();
 }
 
 const QString &ThemeResources::getDisabledFactorsVarPrefix()
 {
-    static const QString prefix = QStringLiteral("factors");
-    return prefix;
+    return GroupNames::disabledFactors();
 }
 
 const QString &ThemeResources::iconsPrefix()
 {
-    static const QString prefix = QStringLiteral("icons");
-    return prefix;
+    return ImageFiles::iconsPrefix();
 }
 
 const QString &ThemeResources::cursorsPrefix()
 {
-    static const QString prefix = QStringLiteral("cursors");
-    return prefix;
+    return ImageFiles::cursorsPrefix();
 }
 
 const QString &ThemeResources::themeResourcesPrefix()
 {
-    static const QString prefix = QStringLiteral("resources");
-    return prefix;
+    return ImageFiles::themeResourcesPrefix();
 }
 
 QVariant ThemeResources::getThemeVar(const QString &path, const QVariant &defaultValue)
@@ -171,21 +163,32 @@ QString ThemeResources::getBrushKey(const QBrush &brush)
 
 QString ThemeResources::getColorOrBrushKey(const QVariant &value, const QVariantMap &group)
 {
-    QString first;
-    bool found = false;
-    for (auto it = group.cbegin(); it != group.cend(); ++it) {
-        if (it.value() != value) {
-            continue;
-        }
-        if (isPreferredKey(it.key())) {
-            return it.key();
-        }
-        if (!found) {
-            first = it.key();
-            found = true;
-        }
-    }
-    return first;
+    return keyOfValue(value, group);
+}
+
+QString ThemeResources::customizeStyleSheet(const QString &styleSheet)
+{
+    return withVariables(styleSheet);
+}
+
+QIcon ThemeResources::getIcon(const QString &name)
+{
+    return ImageFiles::icon(name);
+}
+
+QStringList ThemeResources::getIcons(const QRegularExpression &filter)
+{
+    return ImageFiles::iconNames(filter);
+}
+
+QPixmap ThemeResources::getPixmap(const QString &name, const QSize &size)
+{
+    return ImageFiles::pixmap(name, size);
+}
+
+QCursor ThemeResources::getCursor(const QString &name)
+{
+    return ImageFiles::cursor(name);
 }
 
 } // namespace TARN

@@ -1,8 +1,12 @@
 #pragma once
 
-#include "resources/ThemeResources.h"
+#include "resources/variables/GroupNames.h"
 
 #include <QtCore/QHash>
+#include <QtCore/QVariant>
+#include <QtGui/QBrush>
+#include <QtGui/QColor>
+#include <QtGui/QFont>
 
 #include <vector>
 
@@ -39,23 +43,22 @@ private:
 };
 
 /// A kind of theme variable: what its values are, and where they are published.
-template <typename T, const QString &(*Prefix)(),
-          const char *(*Property)() = ThemeResources::getThemeVariablePropertyName>
+template <typename T, const QString &(*Group)(), const char *Property = GroupNames::variables>
 struct VariableKind
 {
     using Value = T;
 
-    static const QString &group() { return Prefix(); }
-    static const char *property() { return Property(); }
+    static const QString &group() { return Group(); }
+    static const char *property() { return Property; }
 };
 
-using ColorKind = VariableKind<QColor, ThemeResources::getColorsVarPrefix>;
-using BrushKind = VariableKind<QBrush, ThemeResources::getBrushesVarPrefix>;
-using FontKind = VariableKind<QFont, ThemeResources::getFontsVarPrefix>;
-using OpacityKind = VariableKind<double, ThemeResources::getOpacitiesVarPrefix>;
-using CornerRadiusKind = VariableKind<double, ThemeResources::getCornerRadiusVarPrefix>;
-using DisabledFactorKind = VariableKind<int, ThemeResources::getDisabledFactorsVarPrefix,
-                                        ThemeResources::getInternalThemeVariablePropertyName>;
+using ColorKind = VariableKind<QColor, GroupNames::colors>;
+using BrushKind = VariableKind<QBrush, GroupNames::brushes>;
+using FontKind = VariableKind<QFont, GroupNames::fonts>;
+using OpacityKind = VariableKind<double, GroupNames::opacities>;
+using CornerRadiusKind = VariableKind<double, GroupNames::cornerRadii>;
+using DisabledFactorKind =
+    VariableKind<int, GroupNames::disabledFactors, GroupNames::internalVariables>;
 
 /// Returns the variable \a name of one of the kinds above from the snapshot of what is published;
 /// null when there is none, and without an application object. The observer of look-ups is told.

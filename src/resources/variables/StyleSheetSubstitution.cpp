@@ -1,15 +1,15 @@
 #include "resources/variables/StyleSheetSubstitution.h"
 
-#include "resources/ThemeResources.h"
+#include "resources/variables/GroupNames.h"
 #include "resources/variables/LookUps.h"
 #include "resources/variables/PublishedVariables.h"
 #include "resources/variables/VariablePath.h"
 
 namespace TARN {
 
-QString ThemeResources::customizeStyleSheet(const QString &styleSheet)
+QString withVariables(const QString &styleSheet)
 {
-    const QVariantMap variables = publishedVariables(getThemeVariablePropertyName());
+    const QVariantMap variables = publishedVariables(GroupNames::variables);
     QString result;
     int copied = 0;
     // The text of a value is not searched again, and the end of a placeholder that names nothing

@@ -11,4 +11,8 @@ inline QRegularExpression placeholderPattern()
     return QRegularExpression(QStringLiteral("(@)([\\w%1]+)(@)").arg(QLatin1Char('/')));
 }
 
+/// Returns \a styleSheet with each placeholder replaced by the text of the variable that is
+/// published at its path. A placeholder that names no variable stays as it stands.
+QString withVariables(const QString &styleSheet);
+
 } // namespace TARN

@@ -1,7 +1,5 @@
 #include "resources/variables/VariableKeyIndex.h"
 
-#include "resources/ThemeResources.h"
-
 #include <QtGui/QBrush>
 #include <QtGui/QColor>
 #include <QtGui/QRgba64>
@@ -33,11 +31,31 @@ bool comparesExactly(const QBrush &brush)
     return comparesExactly(brush.color());
 }
 
-} // namespace
-
+/// Tells whether \a key is of those that are preferred when several variables hold one value.
 bool isPreferredKey(const QString &key)
 {
     return key.startsWith(QLatin1String("Foreground")) || key.startsWith(QLatin1String("Main"));
+}
+
+} // namespace
+
+QString keyOfValue(const QVariant &value, const QVariantMap &group)
+{
+    QString first;
+    bool found = false;
+    for (auto it = group.cbegin(); it != group.cend(); ++it) {
+        if (it.value() != value) {
+            continue;
+        }
+        if (isPreferredKey(it.key())) {
+            return it.key();
+        }
+        if (!found) {
+            first = it.key();
+            found = true;
+        }
+    }
+    return first;
 }
 
 template <typename T>
@@ -48,7 +66,7 @@ QString VariableKeyIndex<T>::key(const T &value, const QVariantMap &group)
         build(group);
     }
     if (!m_exact || !comparesExactly(value)) {
-        return ThemeResources::getColorOrBrushKey(QVariant::fromValue(value), group);
+        return keyOfValue(QVariant::fromValue(value), group);
     }
     const auto bucket = m_buckets.find(bucketOf(value));
     if (bucket == m_buckets.cend()) {

@@ -8,6 +8,10 @@
 
 namespace TARN {
 
+/// Returns the name of \a value in \a group; empty when there is none. Of several, the first in
+/// ascending order that starts with "Foreground" or "Main", else the first.
+QString keyOfValue(const QVariant &value, const QVariantMap &group);
+
 /// Answers by which name a colour or brush is published in a group of theme variables, without
 /// walking the group on each call.
 ///
@@ -17,8 +21,7 @@ template <typename T>
 class VariableKeyIndex
 {
 public:
-    /// Returns the name of \a value in \a group, by the rule of
-    /// ThemeResources::getColorOrBrushKey().
+    /// Returns the name of \a value in \a group, by the rule of keyOfValue().
     QString key(const T &value, const QVariantMap &group);
 
 private:
@@ -35,8 +38,5 @@ private:
     bool m_exact = true; ///< whether equal values always share a bucket
     std::unordered_map<quint64, QVector<Entry>> m_buckets;
 };
-
-/// Tells whether \a key is of those that are preferred when several variables hold one value.
-bool isPreferredKey(const QString &key);
 
 } // namespace TARN

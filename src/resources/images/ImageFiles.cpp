@@ -1,4 +1,4 @@
-#include "resources/ThemeResources.h"
+#include "resources/images/ImageFiles.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>
@@ -8,7 +8,7 @@
 
 #include <array>
 
-namespace TARN {
+namespace TARN::ImageFiles {
 
 namespace {
 
@@ -58,7 +58,7 @@ QString findImagePath(const QString &name, const QString &searchPathPrefix)
 
 QString findIconPath(const QString &name)
 {
-    return findImagePath(name, ThemeResources::iconsPrefix());
+    return findImagePath(name, iconsPrefix());
 }
 
 /// Tells whether an image of \a size is none that anybody drew: it would take more than a gigabyte.
@@ -129,13 +129,31 @@ QPoint extractHotspotFromCurFile(const QString &path)
 
 } // namespace
 
-QIcon ThemeResources::getIcon(const QString &name)
+const QString &iconsPrefix()
+{
+    static const QString prefix = QStringLiteral("icons");
+    return prefix;
+}
+
+const QString &cursorsPrefix()
+{
+    static const QString prefix = QStringLiteral("cursors");
+    return prefix;
+}
+
+const QString &themeResourcesPrefix()
+{
+    static const QString prefix = QStringLiteral("resources");
+    return prefix;
+}
+
+QIcon icon(const QString &name)
 {
     const QString path = findIconPath(name);
     return path.isEmpty() ? QIcon() : QIcon(path);
 }
 
-QStringList ThemeResources::getIcons(const QRegularExpression &filter)
+QStringList iconNames(const QRegularExpression &filter)
 {
     QStringList names;
     const QStringList directories = QDir::searchPaths(iconsPrefix());
@@ -152,12 +170,12 @@ QStringList ThemeResources::getIcons(const QRegularExpression &filter)
     return names;
 }
 
-QPixmap ThemeResources::getPixmap(const QString &name, const QSize &size)
+QPixmap pixmap(const QString &name, const QSize &size)
 {
     return readPixmap(findIconPath(name), size);
 }
 
-QCursor ThemeResources::getCursor(const QString &name)
+QCursor cursor(const QString &name)
 {
     const QString path = findImagePath(name, cursorsPrefix());
     const QPixmap pixmap = readPixmap(path, QSize());
@@ -172,4 +190,4 @@ QCursor ThemeResources::getCursor(const QString &name)
     return {pixmap, hotspot.x(), hotspot.y()};
 }
 
-} // namespace TARN
+} // namespace TARN::ImageFiles
