@@ -13,7 +13,7 @@ constexpr bool isPainted(std::string_view rule)
     return rule != "leftToBaseStyle";
 }
 
-#define MOX_ELEMENT(element, rule) {QStyle::element, #element, isPainted(#rule)},
+#define MOX_ELEMENT(element, rule) {#element, QStyle::element, isPainted(#rule)},
 
 constexpr StyleElement primitiveRows[] = {
 #define MOX_PRIMITIVE(element, rule) MOX_ELEMENT(element, rule)

@@ -7,8 +7,8 @@ namespace TARN {
 /// An element that the toolkit asks a style to paint.
 struct StyleElement
 {
-    int element;      ///< of the enumeration that the list is for
     const char *name; ///< as the toolkit spells it
+    int element;      ///< of the enumeration that the list is for
     bool isPainted;   ///< by the style; otherwise the element is left to the base style
 };
 
