@@ -1,7 +1,6 @@
 #include "preview/LivePreview.h"
 
 #include "preview/FindingsPanel.h"
-#include "preview/KeptFactors.h"
 #include "preview/ThemeSession.h"
 #include "text/Literals.h"
 
@@ -70,7 +69,6 @@ void LivePreview::showTheme()
 
 void LivePreview::showFindings()
 {
-    const KeptFactors keptFactors;
     m_panel->setFindings(m_check(m_session.directory()), m_session.directory());
 }
 

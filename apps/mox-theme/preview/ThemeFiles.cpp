@@ -1,10 +1,9 @@
 #include "preview/ThemeFiles.h"
 
-#include "preview/KeptFactors.h"
 #include "text/Literals.h"
 
 #include <readers/QPaletteReader.h>
-#include <readers/ThemeConfigurationReader.h>
+#include <readers/ThemeConfiguration.h>
 #include <theme/BaseThemeSettings.h>
 
 #include <QtCore/QFile>
@@ -41,19 +40,18 @@ QString faultOf(const QString &path)
 
 QString unappliableTheme(const QString &directory)
 {
-    const KeptFactors keptFactors;
     const QString description = directory + "/theme.xml"_s;
     if (BaseThemeSettings(description).getStatus() != 0) {
         return faultOf(description);
     }
     const QString configurationPath = directory + "/config.xml"_s;
-    const ThemeConfigurationReader configuration(configurationPath);
-    if (configuration.getStatus() != 0) {
+    const ThemeConfiguration configuration = readConfiguration(configurationPath);
+    if (configuration.status != ReadFine) {
         return faultOf(configurationPath);
     }
     const QString mappingPath = directory + "/qpaletteMapping.xml"_s;
-    const QPaletteReader mapping(mappingPath, configuration.getBrushesMap(),
-                                 configuration.getColorsMap(), QPalette());
+    const QPaletteReader mapping(mappingPath, configuration.brushes, configuration.colors,
+                                 QPalette());
     return mapping.getStatus() != 0 ? faultOf(mappingPath) : QString();
 }
 
