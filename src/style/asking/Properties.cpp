@@ -5,6 +5,7 @@
 #include <QtCore/QMetaProperty>
 
 #include <algorithm>
+#include <optional>
 
 namespace TARN {
 
@@ -18,8 +19,19 @@ bool isDynamic(const QObject &object, Property property)
                        [property](const QByteArray &name) { return name == nameOf(property); });
 }
 
-/// Returns the value of a property that is declared at \a index, or dynamic when that is -1.
-QVariant valueOf(const QObject &object, Property property, int index)
+/// Where \a object has \a property: at an index of its class, or -1 when it was set on the object.
+/// Most properties are asked for in vain, which is not to cost even an empty value.
+std::optional<int> find(const QObject *object, Property property)
+{
+    if (!object) {
+        return {};
+    }
+    const int index = declaredIndex(*object->metaObject(), property);
+    const bool exists = index >= 0 || isDynamic(*object, property);
+    return exists ? std::optional(index) : std::nullopt;
+}
+
+QVariant valueAt(int index, const QObject &object, Property property)
 {
     return index >= 0 ? object.metaObject()->property(index).read(&object)
                       : object.property(nameOf(property));
@@ -29,23 +41,20 @@ QVariant valueOf(const QObject &object, Property property, int index)
 
 QVariant propertyOf(const QObject *object, Property property)
 {
-    if (!object) {
-        return {};
-    }
-    const int index = declaredIndex(*object->metaObject(), property);
-    const bool exists = index >= 0 || isDynamic(*object, property);
-    return exists ? valueOf(*object, property, index) : QVariant();
+    const std::optional<int> index = find(object, property);
+    return index ? valueAt(*index, *object, property) : QVariant();
 }
 
 bool isSet(const QObject *object, Property property)
 {
-    if (!object) {
-        return false;
-    }
-    // Most properties are asked for in vain, which is not to cost even an empty value.
-    const int index = declaredIndex(*object->metaObject(), property);
-    const bool exists = index >= 0 || isDynamic(*object, property);
-    return exists && valueOf(*object, property, index).toBool();
+    const std::optional<int> index = find(object, property);
+    return index && valueAt(*index, *object, property).toBool();
+}
+
+QString textOf(const QObject *object, Property property)
+{
+    const std::optional<int> index = find(object, property);
+    return index ? valueAt(*index, *object, property).toString() : QString();
 }
 
 void setProperty(QObject &object, Property property, const QVariant &value)

@@ -135,7 +135,7 @@ KindWord ButtonBrushChooser::kindWord() const
         return highlightedKind();
     }
     for (const Property property : {Property::Status, Property::Order, Property::ButtonType}) {
-        const QString kind = propertyOf(m_widget, property).toString();
+        const QString kind = textOf(m_widget, property);
         if (!kind.isEmpty()) {
             return KindWord(kind);
         }

@@ -91,7 +91,7 @@ QIcon themeIcon(const char *name)
 
 QIcon highlightedIcon(const QStyleOption *option, const QWidget *widget)
 {
-    const QString name = propertyOf(widget, Property::HighlightedIcon).toString();
+    const QString name = textOf(widget, Property::HighlightedIcon);
     if (name.isEmpty()) {
         return {};
     }

@@ -30,10 +30,9 @@ QStyleOptionButton asButtonOption(const QStyleOption &option)
 /// Tells whether a button is of a kind that a theme has brushes for.
 bool hasKind(const QWidget *widget)
 {
-    return isSet(widget, Property::Highlighted) ||
-           !propertyOf(widget, Property::Status).toString().isEmpty() ||
-           !propertyOf(widget, Property::Order).toString().isEmpty() ||
-           !propertyOf(widget, Property::ButtonType).toString().isEmpty();
+    return isSet(widget, Property::Highlighted) || !textOf(widget, Property::Status).isEmpty() ||
+           !textOf(widget, Property::Order).isEmpty() ||
+           !textOf(widget, Property::ButtonType).isEmpty();
 }
 
 /// Tells whether a push button shows a face: a plain flat one only does while it is pressed or

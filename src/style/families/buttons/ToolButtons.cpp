@@ -98,7 +98,7 @@ LabelPlaces placesBesideEachOther(const QStyleOptionToolButton &button, const QS
         // Who is signed in is shown as in a list of people: the name, and the portrait at the end.
         icon.moveRight(rect.right());
         text.moveLeft(rect.left());
-    } else if (!propertyOf(widget, Property::ButtonType).toString().isEmpty()) {
+    } else if (!textOf(widget, Property::ButtonType).isEmpty()) {
         // A button of a kind looks like the push buttons of that kind: all in the middle.
         const int textWidth = button.fontMetrics.size(Qt::TextShowMnemonic, button.text).width();
         const int shift = qMax(0, (text.width() - textWidth) / 2);
