@@ -1,6 +1,3 @@
-#include "style/IconTheme.h"
-#include "style/UniqueTheme.h"
-
 #include <style/BaseStyle.h>
 #include <style/ComboBoxDefaultItemDelegate.h>
 #include <theme/Theme.h>
@@ -11,6 +8,8 @@
 
 #include <memory>
 #include <support/Text.h>
+#include <support/themes/IconTheme.h>
+#include <support/themes/UniqueTheme.h>
 #include <vector>
 
 using TARN::BaseStyle;

@@ -1,4 +1,4 @@
-#include "style/UniqueTheme.h"
+#include "support/themes/UniqueTheme.h"
 
 #include <style/BaseStyle.h>
 
