@@ -7,6 +7,7 @@
 #include <QtWidgets/QtWidgets>
 
 #include <memory>
+#include <support/ComboBoxes.h>
 #include <support/Text.h>
 #include <support/themes/IconTheme.h>
 #include <support/themes/UniqueTheme.h>
@@ -19,15 +20,6 @@ using TARN::ThemeFactory;
 namespace {
 
 constexpr int groupCount = 10;
-
-QComboBox *makeComboBox(bool editable)
-{
-    auto *combo = new QComboBox;
-    combo->addItems({text("First"), text("Middle"), text("Last")});
-    ComboBoxDefaultItemDelegate::setSeparator(combo->model(), combo->model()->index(1, 0));
-    combo->setEditable(editable);
-    return combo;
-}
 
 /// A window of some hundred widgets of all kinds.
 class FullWindow : public QMainWindow
@@ -119,20 +111,6 @@ private:
     QGridLayout *m_layout = nullptr;
     int m_count = 0;
 };
-
-ComboBoxDefaultItemDelegate *delegateOf(const QComboBox &combo)
-{
-    return qobject_cast<ComboBoxDefaultItemDelegate *>(combo.itemDelegate());
-}
-
-/// Opens the list of \a combo and has it painted. Tells whether it was.
-bool opens(QComboBox &combo)
-{
-    combo.showPopup();
-    const bool isOpen = combo.view()->isVisible() && !combo.view()->grab().isNull();
-    combo.hidePopup();
-    return isOpen && !combo.grab().isNull();
-}
 
 /// Everything that can be left over from a former style goes through its paces.
 void exercise(FullWindow &window)
@@ -304,81 +282,6 @@ private Q_SLOTS:
             QVERIFY(combo->itemDelegate());
             QVERIFY(opens(*combo));
         }
-    }
-
-    void dyingStyleLeavesADelegate()
-    {
-        QComboBox combo;
-        combo.addItem(text("Only"));
-        std::unique_ptr<BaseStyle> style(new BaseStyle);
-        combo.setStyle(style.get());
-        combo.ensurePolished();
-        const QPointer<ComboBoxDefaultItemDelegate> former = delegateOf(combo);
-        QVERIFY(former);
-        QCOMPARE(former->parent(), style.get());
-        combo.setStyle(nullptr);
-        style.reset();
-        QVERIFY(former.isNull());
-        QVERIFY(delegateOf(combo));
-        QCOMPARE(delegateOf(combo)->parent(), &combo);
-        QVERIFY(opens(combo));
-    }
-
-    void dyingStyleLeavesOtherDelegatesAlone()
-    {
-        QComboBox combo;
-        std::unique_ptr<BaseStyle> style(new BaseStyle);
-        combo.setStyle(style.get());
-        combo.ensurePolished();
-        auto *own = new QStyledItemDelegate(&combo);
-        combo.setItemDelegate(own);
-        combo.setStyle(nullptr);
-        style.reset();
-        QCOMPARE(combo.itemDelegate(), own);
-    }
-
-    void comboBoxDiesBeforeItsStyle()
-    {
-        BaseStyle style;
-        for (int round = 0; round < 3; ++round) {
-            QComboBox combo;
-            combo.setStyle(&style);
-            combo.ensurePolished();
-            QCOMPARE(delegateOf(combo)->parent(), &style);
-        }
-        QVERIFY(!style.findChildren<ComboBoxDefaultItemDelegate *>().isEmpty());
-    }
-
-    void newStyleTakesOverDelegates()
-    {
-        QComboBox combo;
-        BaseStyle first;
-        first.polish(&combo);
-        combo.setStyle(&first);
-        combo.ensurePolished();
-        QCOMPARE(delegateOf(combo)->parent(), &first);
-        BaseStyle second;
-        second.polish(&combo);
-        QCOMPARE(delegateOf(combo)->parent(), &second);
-        QCOMPARE(delegateOf(combo)->comboBox(), &combo);
-        combo.setStyle(nullptr);
-    }
-
-    // A theme that follows the native style finds combo boxes with the native style's delegate.
-    void comboBoxOfAnotherStyle()
-    {
-        QApplication::setStyle(text("fusion"));
-        QComboBox *combo = makeComboBox(false);
-        QWidget window;
-        QHBoxLayout layout(&window);
-        layout.addWidget(combo);
-        window.show();
-        QVERIFY(opens(*combo));
-        QVERIFY(!delegateOf(*combo));
-        auto *style = new BaseStyle;
-        QApplication::setStyle(style);
-        QVERIFY(delegateOf(*combo));
-        QCOMPARE(delegateOf(*combo)->parent(), style);
     }
 
     void polishingAgainAddsNothing()

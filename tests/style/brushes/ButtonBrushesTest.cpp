@@ -1,20 +1,16 @@
+#include "style/brushes/BrushNames.h"
+
 #include <style/BaseStyle.h>
 
 #include <QtTest/QtTest>
-#include <QtWidgets/QAbstractItemView>
 #include <QtWidgets/QApplication>
-#include <QtWidgets/QComboBox>
 #include <QtWidgets/QCommandLinkButton>
-#include <QtWidgets/QDateTimeEdit>
-#include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
-#include <QtWidgets/QSpinBox>
 #include <QtWidgets/QStyleOption>
 #include <QtWidgets/QTabBar>
 #include <QtWidgets/QToolButton>
 
 #include <support/Text.h>
-#include <support/themes/NamedBrushes.h>
 
 using TARN::BaseStyle;
 
@@ -31,13 +27,6 @@ QStyleOptionButton pushButton(QStyle::State state, QStyleOptionButton::ButtonFea
     QStyleOptionButton option;
     option.state = state;
     option.features = features;
-    return option;
-}
-
-QStyleOption plain(QStyle::State state)
-{
-    QStyleOption option;
-    option.state = state;
     return option;
 }
 
@@ -59,47 +48,9 @@ public:
 } // namespace
 
 /// The brushes that are chosen for buttons and button-like inputs.
-class ButtonBrushesTest : public QObject
+class ButtonBrushesTest : public QObject, private BrushNames
 {
     Q_OBJECT
-
-private:
-    NamedBrushes m_names;
-
-    QString background(const QStyleOption &option, const QWidget *widget) const
-    {
-        return m_names.nameOf(BaseStyle::buttonBrushes(&option, widget).background);
-    }
-
-    QString border(const QStyleOption &option, const QWidget *widget) const
-    {
-        return m_names.nameOf(BaseStyle::buttonBrushes(&option, widget).border);
-    }
-
-    QString foreground(const QStyleOption &option, const QWidget *widget) const
-    {
-        return m_names.nameOf(BaseStyle::buttonBrushes(&option, widget).foreground);
-    }
-
-    /// Returns the names of background, border and foreground.
-    QStringList all(const QStyleOption &option, const QWidget *widget) const
-    {
-        return {background(option, widget), border(option, widget), foreground(option, widget)};
-    }
-
-    static QStringList named(const char *prefixAndState)
-    {
-        const QString name = text(prefixAndState);
-        return {name + text("BackgroundBrush"), name + text("BorderBrush"),
-                name + text("ForegroundBrush")};
-    }
-
-    static void show(QWidget &widget)
-    {
-        widget.show();
-        QApplication::setActiveWindow(&widget);
-        QVERIFY(QTest::qWaitForWindowActive(&widget));
-    }
 
 private Q_SLOTS:
     void stateWords_data()
@@ -321,100 +272,6 @@ private Q_SLOTS:
         button.setEnabled(false);
         QCOMPARE(border(plain(on | hovered), &button),
                  text("ButtonPrimaryUncheckedHoverBackgroundBrushDisabled"));
-    }
-
-    void calendarEdits()
-    {
-        QDateEdit edit;
-        edit.setCalendarPopup(true);
-        QCOMPARE(all(plain(hovered), &edit),
-                 QStringList({text("InputUncheckedHoverBackgroundBrush"),
-                              text("InputUncheckedHoverBorderBrush"),
-                              text("ButtonUncheckedHoverForegroundBrush")}));
-        edit.setProperty("Status", text("Primary"));
-        QCOMPARE(border(plain(enabled), &edit), text("InputPrimaryUncheckedBorderBrush"));
-        show(edit);
-        edit.setFocus();
-        QCOMPARE(border(plain(enabled), &edit), text("MainBrush"));
-        edit.setFrame(false);
-        QCOMPARE(border(plain(enabled), &edit), text("InputPrimaryUncheckedBackgroundBrush"));
-    }
-
-    void spinBoxes_data()
-    {
-        QTest::addColumn<QWidget *>("widget");
-        auto *timeEdit = new QTimeEdit;
-        timeEdit->setCalendarPopup(true);
-        QTest::newRow("spin box") << static_cast<QWidget *>(new QSpinBox);
-        QTest::newRow("date edit without calendar") << static_cast<QWidget *>(new QDateEdit);
-        QTest::newRow("time edit") << static_cast<QWidget *>(timeEdit);
-    }
-
-    void spinBoxes()
-    {
-        QFETCH(QWidget *, widget);
-        const QScopedPointer<QWidget> owner(widget);
-        const QString resting = text("InputUncheckedBackgroundBrush");
-        QCOMPARE(all(plain(enabled), widget),
-                 QStringList({resting, resting, text("ButtonUncheckedForegroundBrush")}));
-        QCOMPARE(all(plain(hovered), widget),
-                 QStringList({resting, resting, text("ButtonUncheckedHoverForegroundBrush")}));
-        widget->setProperty("Order", text("Primary"));
-        QCOMPARE(border(plain(sunken), widget),
-                 text("InputPrimaryUncheckedPressedBackgroundBrush"));
-        QCOMPARE(background(plain(hovered), widget), resting);
-        widget->setEnabled(false);
-        QCOMPARE(background(plain(hovered), widget), resting + text("Disabled"));
-    }
-
-    void comboBoxes()
-    {
-        QComboBox box;
-        QCOMPARE(all(plain(hovered), &box), named("InputUncheckedHover"));
-        box.setProperty("ButtonType", text("Primary"));
-        QCOMPARE(all(plain(on), &box), named("InputPrimaryChecked"));
-        box.setProperty("checkable", true);
-        QCOMPARE(all(plain(on), &box), named("InputPrimaryChecked"));
-        box.setFrame(false);
-        QCOMPARE(border(plain(on), &box), text("InputPrimaryCheckedBackgroundBrush"));
-    }
-
-    void choosingBrushesCreatesNoList()
-    {
-        QComboBox box;
-        const int children = box.children().size();
-        all(plain(enabled), &box);
-        QCOMPARE(box.children().size(), children);
-    }
-
-    void openComboBox()
-    {
-        QComboBox box;
-        box.addItems({text("a"), text("b")});
-        show(box);
-        box.showPopup();
-        QTRY_VERIFY(box.view()->isVisible());
-        QCOMPARE(border(plain(enabled), &box), text("CardBorderBrush"));
-        QCOMPARE(border(plain(QStyle::State_None), &box), text("CardBorderBrushDisabled"));
-        box.setFrame(false);
-        QCOMPARE(border(plain(enabled), &box), text("InputUncheckedBackgroundBrush"));
-        box.setFrame(true);
-        box.hidePopup();
-        QTRY_VERIFY(!box.view()->isVisible());
-        QCOMPARE(border(plain(enabled), &box), text("InputUncheckedBorderBrush"));
-    }
-
-    void editedComboBox()
-    {
-        QComboBox box;
-        box.setEditable(true);
-        QCOMPARE(border(plain(enabled), &box), text("InputUncheckedBorderBrush"));
-        show(box);
-        box.lineEdit()->setFocus();
-        QVERIFY(box.lineEdit()->hasFocus());
-        QCOMPARE(border(plain(enabled), &box), text("MainBrush"));
-        box.setFrame(false);
-        QCOMPARE(border(plain(enabled), &box), text("InputUncheckedBackgroundBrush"));
     }
 
     void commandLinks()

@@ -5,6 +5,7 @@
 
 #include <support/Text.h>
 #include <support/painting/CallRecorder.h>
+#include <support/painting/Pixels.h>
 #include <support/themes/PaintTheme.h>
 
 namespace {
@@ -21,13 +22,6 @@ QStyleOptionFocusRect focusOption(QStyle::State state)
     option.state = state;
     option.palette.setColor(QPalette::Text, Qt::white);
     return option;
-}
-
-QImage blank()
-{
-    QImage picture(pictureSize, QImage::Format_RGB32);
-    picture.fill(Qt::black);
-    return picture;
 }
 
 } // namespace
@@ -59,7 +53,7 @@ private:
 
 void FocusRectPaintTest::dottedLineInTheTextColor()
 {
-    QImage expected = blank();
+    QImage expected = plainPicture(pictureSize);
     QPainter painter(&expected);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.translate(0.5, 0.5);
@@ -68,7 +62,7 @@ void FocusRectPaintTest::dottedLineInTheTextColor()
     painter.setPen(pen);
     painter.drawRoundedRect(QRectF(4, 2, 29, 14), 1.0, 1.0);
     painter.end();
-    QVERIFY(expected != blank());
+    QVERIFY(expected != plainPicture(pictureSize));
 
     QCOMPARE(painted(focusOption(focusedByKeyboard)), expected);
 }
@@ -105,7 +99,7 @@ void FocusRectPaintTest::onlyByKeyboard()
     QFETCH(int, state);
     QFETCH(bool, isPainted);
 
-    QCOMPARE(painted(focusOption(QStyle::State(state))) != blank(), isPainted);
+    QCOMPARE(painted(focusOption(QStyle::State(state))) != plainPicture(pictureSize), isPainted);
 }
 
 void FocusRectPaintTest::hidden_data()
@@ -125,7 +119,8 @@ void FocusRectPaintTest::hidden()
     QPushButton button;
     button.setProperty("hideFocusRect", hideFocusRect);
 
-    QCOMPARE(painted(focusOption(focusedByKeyboard), &button) != blank(), isPainted);
+    QCOMPARE(painted(focusOption(focusedByKeyboard), &button) != plainPicture(pictureSize),
+             isPainted);
 }
 
 void FocusRectPaintTest::needsItsOption()
@@ -134,12 +129,12 @@ void FocusRectPaintTest::needsItsOption()
     option.rect = focusRect;
     option.state = focusedByKeyboard;
 
-    QCOMPARE(painted(option), blank());
+    QCOMPARE(painted(option), plainPicture(pictureSize));
 }
 
 void FocusRectPaintTest::leavesThePainterAlone()
 {
-    QImage picture = blank();
+    QImage picture = plainPicture(pictureSize);
     QPainter painter(&picture);
     const QPen pen(Qt::green, 3);
     painter.setPen(pen);

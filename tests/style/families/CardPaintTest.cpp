@@ -281,5 +281,4 @@ void CardPaintTest::staysInside()
 }
 
 QTEST_MAIN(CardPaintTest)
-
 #include "CardPaintTest.moc"

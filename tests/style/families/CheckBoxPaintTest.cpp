@@ -3,6 +3,7 @@
 
 #include <support/Text.h>
 #include <support/painting/CallRecorder.h>
+#include <support/painting/OddRectangles.h>
 #include <support/themes/PaintTheme.h>
 
 namespace {
@@ -23,13 +24,6 @@ QStyleOptionButton option(const QSize &optionSize, QStyle::State state)
     QStyleOptionButton button;
     button.rect = QRect(QPoint(), optionSize);
     button.state = state;
-    return button;
-}
-
-QStyleOptionButton labelOption()
-{
-    QStyleOptionButton button = option({120, 20}, QStyle::State_Enabled | on);
-    button.text = text("Scale bar");
     return button;
 }
 
@@ -58,14 +52,6 @@ private Q_SLOTS:
     void switchOfNoChangeIsInTheMiddle();
     void switchIsOutlinedAsACheckBox();
     void indicatorNeedsItsOption();
-    void control();
-    void controlIsMirrored();
-    void focusIsDrawn();
-    void controlNeedsItsOption();
-    void label_data();
-    void label();
-    void labelWithIcon();
-    void mnemonics();
     void anyRectangle_data();
     void anyRectangle();
 };
@@ -307,132 +293,9 @@ void CheckBoxPaintTest::indicatorNeedsItsOption()
     QVERIFY(theme.namesIn(picture).isEmpty());
 }
 
-void CheckBoxPaintTest::control()
-{
-    const PaintTheme theme;
-    CallRecorder recorder;
-    const QCheckBox checkBox;
-    const QStyleOptionButton button = labelOption();
-    recorder.picture(QStyle::CE_CheckBox, button, &checkBox, button.rect.size());
-    QCOMPARE(recorder.elements(), QStringList({text("PE_IndicatorCheckBox"),
-                                               text("CE_CheckBoxLabel"), text("drawItemText")}));
-    QCOMPARE(recorder.call("PE_IndicatorCheckBox").rect, QRect(0, 3, 14, 14));
-    QCOMPARE(recorder.call("CE_CheckBoxLabel").rect, QRect(19, 0, 100, 20));
-    QCOMPARE(recorder.call("CE_CheckBoxLabel").state, button.state);
-    QCOMPARE(recorder.call("drawItemText").text, button.text);
-}
-
-void CheckBoxPaintTest::controlIsMirrored()
-{
-    const PaintTheme theme;
-    CallRecorder recorder;
-    QStyleOptionButton button = labelOption();
-    button.direction = Qt::RightToLeft;
-    recorder.picture(QStyle::CE_CheckBox, button, nullptr, button.rect.size());
-    QCOMPARE(recorder.call("PE_IndicatorCheckBox").rect, QRect(106, 3, 14, 14));
-    QCOMPARE(recorder.call("CE_CheckBoxLabel").rect, QRect(1, 0, 100, 20));
-}
-
-void CheckBoxPaintTest::focusIsDrawn()
-{
-    const PaintTheme theme;
-    CallRecorder recorder;
-    QStyleOptionButton button = labelOption();
-    button.state |= QStyle::State_HasFocus;
-    recorder.picture(QStyle::CE_CheckBox, button, nullptr, button.rect.size());
-    const PaintCall focus = recorder.call("PE_FrameFocusRect");
-    QCOMPARE(focus.rect, recorder.subElementRect(QStyle::SE_CheckBoxFocusRect, &button, nullptr));
-    QCOMPARE(focus.state, button.state);
-}
-
-void CheckBoxPaintTest::controlNeedsItsOption()
-{
-    const PaintTheme theme;
-    CallRecorder recorder;
-    QStyleOption plain;
-    plain.rect = QRect(0, 0, 100, 20);
-    recorder.picture(QStyle::CE_CheckBox, plain, nullptr, {100, 20});
-    QVERIFY(recorder.calls().empty());
-    recorder.picture(QStyle::CE_CheckBoxLabel, plain, nullptr, {100, 20});
-    QVERIFY(recorder.calls().empty());
-}
-
-void CheckBoxPaintTest::label_data()
-{
-    QTest::addColumn<Qt::LayoutDirection>("direction");
-    QTest::newRow("left to right") << Qt::LeftToRight;
-    QTest::newRow("right to left") << Qt::RightToLeft;
-}
-
-void CheckBoxPaintTest::label()
-{
-    QFETCH(Qt::LayoutDirection, direction);
-    const PaintTheme theme;
-    CallRecorder recorder;
-    QStyleOptionButton button = labelOption();
-    button.direction = direction;
-    // A glyph that fills its box shows where the text is, and its colour.
-    button.text = QString(QChar(0x2588));
-    button.palette.setBrush(QPalette::WindowText, QColor(Qt::red));
-    const QImage picture =
-        recorder.picture(QStyle::CE_CheckBoxLabel, button, nullptr, button.rect.size(), Qt::black);
-    QCOMPARE(recorder.elements(), QStringList{text("drawItemText")});
-    QCOMPARE(recorder.call("drawItemText").rect, button.rect);
-    const int x = direction == Qt::LeftToRight ? 3 : 116;
-    QCOMPARE(picture.pixelColor(x, 10), QColor(Qt::red));
-    QCOMPARE(picture.pixelColor(119 - x, 10), QColor(Qt::black));
-}
-
-void CheckBoxPaintTest::labelWithIcon()
-{
-    const PaintTheme theme;
-    CallRecorder recorder;
-    QPixmap pixmap(16, 16);
-    pixmap.fill(Qt::green);
-    QStyleOptionButton button = labelOption();
-    button.icon = pixmap;
-    button.iconSize = QSize(16, 16);
-    const QImage picture =
-        recorder.picture(QStyle::CE_CheckBoxLabel, button, nullptr, button.rect.size());
-    QCOMPARE(recorder.elements(), QStringList({text("drawItemPixmap"), text("drawItemText")}));
-    QCOMPARE(picture.pixelColor(0, 2), QColor(Qt::green));
-    QCOMPARE(picture.pixelColor(15, 17), QColor(Qt::green));
-    QCOMPARE(recorder.call("drawItemText").rect, QRect(20, 0, 100, 20));
-
-    button.direction = Qt::RightToLeft;
-    recorder.picture(QStyle::CE_CheckBoxLabel, button, nullptr, button.rect.size());
-    QCOMPARE(recorder.call("drawItemText").rect, QRect(0, 0, 100, 20));
-
-    button.text.clear();
-    recorder.picture(QStyle::CE_CheckBoxLabel, button, nullptr, button.rect.size());
-    QCOMPARE(recorder.elements(), QStringList{text("drawItemPixmap")});
-}
-
-void CheckBoxPaintTest::mnemonics()
-{
-    const PaintTheme theme;
-    CallRecorder recorder;
-    QStyleOptionButton plain = labelOption();
-    QStyleOptionButton marked = labelOption();
-    plain.text = text("II");
-    marked.text = text("&II");
-    const auto picture = [&](const QStyleOptionButton &button) {
-        return recorder.picture(QStyle::CE_CheckBoxLabel, button, nullptr, button.rect.size(),
-                                Qt::white);
-    };
-    const bool isUnderlined =
-        recorder.styleHint(QStyle::SH_UnderlineShortcut, &marked, nullptr) != 0;
-    QCOMPARE(picture(marked) != picture(plain), isUnderlined);
-}
-
 void CheckBoxPaintTest::anyRectangle_data()
 {
-    QTest::addColumn<QRect>("rect");
-    constexpr int far = 1 << 24;
-    QTest::newRow("null") << QRect();
-    QTest::newRow("negative") << QRect(5, 5, -10, -10);
-    QTest::newRow("one pixel") << QRect(5, 5, 1, 1);
-    QTest::newRow("huge") << QRect(QPoint(-far, -far), QPoint(far, far));
+    addOddRectangles();
 }
 
 void CheckBoxPaintTest::anyRectangle()

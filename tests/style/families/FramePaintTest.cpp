@@ -1,14 +1,12 @@
 #include <QtTest/QtTest>
-#include <QtWidgets/QApplication>
 #include <QtWidgets/QFrame>
-#include <QtWidgets/QGroupBox>
-#include <QtWidgets/QRubberBand>
 
 #include <limits>
 #include <support/Components.h>
 #include <support/Text.h>
 #include <support/painting/CallRecorder.h>
 #include <support/painting/FusionPicture.h>
+#include <support/painting/Pixels.h>
 #include <support/themes/PaintTheme.h>
 
 Q_DECLARE_METATYPE(QFrame::Shadow)
@@ -44,18 +42,6 @@ QStyleOptionRubberBand band()
     return option;
 }
 
-bool containsColor(const QImage &picture, const QColor &color)
-{
-    for (int y = 0; y < picture.height(); ++y) {
-        for (int x = 0; x < picture.width(); ++x) {
-            if (picture.pixelColor(x, y) == color) {
-                return true;
-            }
-        }
-    }
-    return false;
-}
-
 void setRubberBandOpacity(double opacity)
 {
     QVariantMap variables = qApp->property("theme_var").toMap();
@@ -71,12 +57,6 @@ class FramePaintTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void groupBox_data();
-    void groupBox();
-    void flatGroupBox();
-    void groupBoxLeavesTitleFree_data();
-    void groupBoxLeavesTitleFree();
-
     void rubberBand_data();
     void rubberBand();
     void rubberBandIsTranslucent();
@@ -107,121 +87,6 @@ private:
     PaintTheme m_theme = PaintTheme({0, 0, radius, 0});
     CallRecorder m_recorder;
 };
-
-void FramePaintTest::groupBox_data()
-{
-    QTest::addColumn<bool>("enabled");
-    QTest::addColumn<QString>("border");
-    QTest::newRow("enabled") << true << text("CardBorderBrush");
-    QTest::newRow("disabled") << false << text("CardBorderBrushDisabled");
-}
-
-void FramePaintTest::groupBox()
-{
-    QFETCH(bool, enabled);
-    QFETCH(QString, border);
-    QStyleOptionFrame option;
-    option.rect = QRect(QPoint(), size);
-    option.state = enabled ? QStyle::State_Enabled : QStyle::State_None;
-    const QImage picture = m_recorder.picture(QStyle::PE_FrameGroupBox, option, nullptr, size);
-    const QColor inner = m_theme.brush(border).lighter();
-    const int right = size.width() - 1;
-    const int bottom = size.height() - 1;
-    QCOMPARE(nameAt(picture, centre.x(), 0), border);
-    QCOMPARE(nameAt(picture, centre.x(), bottom), border);
-    QCOMPARE(nameAt(picture, 0, centre.y()), border);
-    QCOMPARE(nameAt(picture, right, centre.y()), border);
-    QCOMPARE(picture.pixelColor(centre.x(), 1), inner);
-    QCOMPARE(picture.pixelColor(centre.x(), bottom - 1), inner);
-    QCOMPARE(picture.pixelColor(1, centre.y()), inner);
-    QCOMPARE(picture.pixelColor(right - 1, centre.y()), inner);
-    // Nothing is filled, and the corners are round.
-    QCOMPARE(picture.pixelColor(centre), QColor(Qt::black));
-    QCOMPARE(picture.pixelColor(2, centre.y()), QColor(Qt::black));
-    QCOMPARE(picture.pixelColor(0, 0), QColor(Qt::black));
-    QCOMPARE(picture.pixelColor(right, bottom), QColor(Qt::black));
-}
-
-void FramePaintTest::flatGroupBox()
-{
-    QStyleOptionFrame option;
-    option.rect = QRect(0, 10, size.width(), size.height() - 10);
-    option.state = QStyle::State_Enabled;
-    option.features = QStyleOptionFrame::Flat;
-    const QImage picture = m_recorder.picture(QStyle::PE_FrameGroupBox, option, nullptr, size);
-    const QColor border = m_theme.brush(text("CardBorderBrush"));
-    QImage expected(size, picture.format());
-    expected.fill(Qt::black);
-    for (int x = 0; x < size.width(); ++x) {
-        expected.setPixelColor(x, 10, border);
-        expected.setPixelColor(x, 11, border.lighter());
-    }
-    QCOMPARE(picture, expected);
-}
-
-void FramePaintTest::groupBoxLeavesTitleFree_data()
-{
-    QTest::addColumn<QString>("title");
-    QTest::addColumn<bool>("isCheckable");
-    QTest::addColumn<bool>("isFlat");
-    QTest::addColumn<Qt::LayoutDirection>("direction");
-    QTest::newRow("title") << text("Title") << false << false << Qt::LeftToRight;
-    QTest::newRow("right to left") << text("Title") << false << false << Qt::RightToLeft;
-    QTest::newRow("checkable") << text("Title") << true << false << Qt::LeftToRight;
-    QTest::newRow("checkable, right to left") << text("Title") << true << false << Qt::RightToLeft;
-    QTest::newRow("check box alone") << QString() << true << false << Qt::LeftToRight;
-    QTest::newRow("flat") << text("Title") << false << true << Qt::LeftToRight;
-}
-
-void FramePaintTest::groupBoxLeavesTitleFree()
-{
-    QFETCH(QString, title);
-    QFETCH(bool, isCheckable);
-    QFETCH(bool, isFlat);
-    QFETCH(Qt::LayoutDirection, direction);
-    QGroupBox groupBox(title);
-    groupBox.setCheckable(isCheckable);
-    groupBox.setFlat(isFlat);
-    groupBox.setLayoutDirection(direction);
-    groupBox.resize(size);
-
-    QStyleOptionGroupBox option;
-    option.initFrom(&groupBox);
-    option.text = title;
-    option.textAlignment = Qt::AlignLeft;
-    option.features.setFlag(QStyleOptionFrame::Flat, isFlat);
-    option.subControls = QStyle::SC_GroupBoxFrame | QStyle::SC_GroupBoxLabel;
-    option.subControls.setFlag(QStyle::SC_GroupBoxCheckBox, isCheckable);
-    const auto rect = [&](QStyle::SubControl subControl) {
-        return m_recorder.subControlRect(QStyle::CC_GroupBox, &option, subControl, &groupBox);
-    };
-    QStyleOptionFrame frame;
-    frame.QStyleOption::operator=(option);
-    frame.features = option.features;
-    frame.rect = rect(QStyle::SC_GroupBoxFrame);
-    const QImage picture = m_recorder.picture(QStyle::PE_FrameGroupBox, frame, &groupBox, size);
-
-    QRect free = title.isEmpty() ? QRect() : rect(QStyle::SC_GroupBoxLabel);
-    free |= isCheckable ? rect(QStyle::SC_GroupBoxCheckBox) : QRect();
-    QVERIFY(free.intersects(frame.rect));
-    for (int x = free.left(); x <= free.right(); ++x) {
-        QCOMPARE(picture.pixelColor(x, frame.rect.top()), QColor(Qt::black));
-    }
-    // Beside the title, the frame is the one of a group box without any.
-    const QImage whole = m_recorder.picture(QStyle::PE_FrameGroupBox, frame, nullptr, size);
-    constexpr int titleMargin = 3;
-    const QRect room = free.adjusted(-titleMargin, 0, titleMargin, 0);
-    for (int y = 0; y < size.height(); ++y) {
-        for (int x = 0; x < size.width(); ++x) {
-            const QColor expected =
-                room.contains(x, y) ? QColor(Qt::black) : whole.pixelColor(x, y);
-            QCOMPARE(picture.pixelColor(x, y), expected);
-        }
-    }
-    // The line goes on at the far side.
-    const int beyond = direction == Qt::LeftToRight ? free.right() + 8 : free.left() - 8;
-    QCOMPARE(nameAt(picture, beyond, frame.rect.top()), text("CardBorderBrush"));
-}
 
 void FramePaintTest::rubberBand_data()
 {
@@ -442,5 +307,4 @@ void FramePaintTest::shapedFrameNeedsItsOption()
 }
 
 QTEST_MAIN(FramePaintTest)
-
 #include "FramePaintTest.moc"

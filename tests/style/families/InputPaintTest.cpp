@@ -1,16 +1,14 @@
 #include <QtTest/QtTest>
 #include <QtWidgets/QAbstractItemView>
 #include <QtWidgets/QComboBox>
-#include <QtWidgets/QDateEdit>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPlainTextEdit>
-#include <QtWidgets/QSpinBox>
 #include <QtWidgets/QTextEdit>
 
 #include <support/Text.h>
-#include <support/Variables.h>
 #include <support/painting/CallRecorder.h>
+#include <support/painting/OddRectangles.h>
 #include <support/themes/PaintTheme.h>
 
 namespace {
@@ -27,12 +25,6 @@ QStyleOptionFrame frameOption(QStyle::State state, int lineWidth = 1)
     option.state = state;
     option.lineWidth = lineWidth;
     return option;
-}
-
-/// Returns the widget that a spin box or a combo box edits its text with.
-QLineEdit &editorOf(QWidget &widget)
-{
-    return *widget.findChild<QLineEdit *>();
 }
 
 } // namespace
@@ -62,12 +54,6 @@ private Q_SLOTS:
     void panelDrawsTheFrame();
     void panelOfFramelessEditReachesTheEdges();
     void panelNeedsItsOption();
-    void editorOfSpinBoxHasTheGroundOfTheSpinBox();
-    void editorWithoutButtonsLeavesTheOutline_data();
-    void editorWithoutButtonsLeavesTheOutline();
-    void translucentGroundIsNotPaintedTwice();
-    void editorOfComboBoxPaintsNothing_data();
-    void editorOfComboBoxPaintsNothing();
     void anyRectangle_data();
     void anyRectangle();
 };
@@ -344,94 +330,10 @@ void InputPaintTest::panelNeedsItsOption()
     QVERIFY(theme.namesIn(picture).isEmpty());
 }
 
-void InputPaintTest::editorOfSpinBoxHasTheGroundOfTheSpinBox()
-{
-    const PaintTheme theme;
-    CallRecorder recorder;
-    QSpinBox spinBox;
-    const QImage picture = recorder.picture(
-        QStyle::PE_PanelLineEdit, frameOption(QStyle::State_Enabled | QStyle::State_HasFocus, 0),
-        &editorOf(spinBox), size);
-    QCOMPARE(theme.namesIn(picture), QStringList{text("InputUncheckedBackgroundBrush")});
-    QCOMPARE(theme.nameAt(picture, {59, 13}), text("InputUncheckedBackgroundBrush"));
-}
-
-void InputPaintTest::editorWithoutButtonsLeavesTheOutline_data()
-{
-    QTest::addColumn<Qt::LayoutDirection>("direction");
-    QTest::addColumn<int>("firstPainted");
-    QTest::addColumn<int>("lastPainted");
-    QTest::newRow("left to right") << Qt::LeftToRight << 0 << 57;
-    QTest::newRow("right to left") << Qt::RightToLeft << 2 << 59;
-}
-
-void InputPaintTest::editorWithoutButtonsLeavesTheOutline()
-{
-    QFETCH(Qt::LayoutDirection, direction);
-    QFETCH(int, firstPainted);
-    QFETCH(int, lastPainted);
-    const PaintTheme theme;
-    CallRecorder recorder;
-    QSpinBox spinBox;
-    spinBox.setButtonSymbols(QAbstractSpinBox::NoButtons);
-    QStyleOptionFrame option = frameOption(QStyle::State_Enabled, 0);
-    option.direction = direction;
-    const QImage picture =
-        recorder.picture(QStyle::PE_PanelLineEdit, option, &editorOf(spinBox), size, ground);
-    for (int x = 0; x < size.width(); ++x) {
-        const bool isPainted = x >= firstPainted && x <= lastPainted;
-        QCOMPARE(picture.pixelColor(x, 13),
-                 isPainted ? theme.brush(text("InputUncheckedBackgroundBrush")) : ground);
-    }
-}
-
-void InputPaintTest::translucentGroundIsNotPaintedTwice()
-{
-    const QColor translucent(200, 100, 50, 100);
-    publishVariables({{text("brushes"),
-                       QVariantMap{{text("InputUncheckedBackgroundBrush"), QBrush(translucent)}}}});
-    CallRecorder recorder;
-    QSpinBox spinBox;
-    const QImage picture =
-        recorder.picture(QStyle::PE_PanelLineEdit, frameOption(QStyle::State_Enabled, 0),
-                         &editorOf(spinBox), size, ground);
-    QImage untouched(size, picture.format());
-    untouched.fill(ground);
-    QCOMPARE(picture, untouched);
-}
-
-void InputPaintTest::editorOfComboBoxPaintsNothing_data()
-{
-    QTest::addColumn<bool>("isDateEdit");
-    QTest::newRow("editable combo box") << false;
-    QTest::newRow("date edit with a calendar") << true;
-}
-
-void InputPaintTest::editorOfComboBoxPaintsNothing()
-{
-    QFETCH(bool, isDateEdit);
-    const PaintTheme theme;
-    CallRecorder recorder;
-    QComboBox comboBox;
-    comboBox.setEditable(true);
-    QDateEdit dateEdit;
-    dateEdit.setCalendarPopup(true);
-    QWidget &parent = isDateEdit ? static_cast<QWidget &>(dateEdit) : comboBox;
-    QStyleOptionFrame option = frameOption(QStyle::State_Enabled | QStyle::State_HasFocus, 0);
-    const QImage picture =
-        recorder.picture(QStyle::PE_PanelLineEdit, option, &editorOf(parent), size);
-    QVERIFY(theme.namesIn(picture).isEmpty());
-}
-
 void InputPaintTest::anyRectangle_data()
 {
-    QTest::addColumn<QRect>("rect");
-    constexpr int far = 1 << 24;
-    QTest::newRow("null") << QRect();
-    QTest::newRow("empty") << QRect(5, 5, 0, 0);
-    QTest::newRow("negative") << QRect(5, 5, -10, -10);
-    QTest::newRow("one pixel") << QRect(5, 5, 1, 1);
-    QTest::newRow("huge") << QRect(QPoint(-far, -far), QPoint(far, far));
+    addOddRectangles();
+    QTest::newRow("empty elsewhere") << QRect(5, 5, 0, 0);
 }
 
 void InputPaintTest::anyRectangle()

@@ -6,6 +6,7 @@
 #include <climits>
 #include <support/Text.h>
 #include <support/painting/CallRecorder.h>
+#include <support/painting/Pixels.h>
 #include <support/themes/PaintTheme.h>
 
 Q_DECLARE_METATYPE(QStyle::State)
@@ -272,7 +273,7 @@ void ProgressBarPaintTest::labelColors()
     QStyleOptionProgressBar option = barOption(orientation);
     option.invertedAppearance = isInverted;
     option.direction = direction;
-    option.text = QString(4, QChar(0x2588));
+    option.text = blocks(4);
     option.palette.setColor(QPalette::Text, plainText);
     option.palette.setColor(QPalette::HighlightedText, filledText);
     option.progress = 50;
@@ -324,7 +325,7 @@ void ProgressBarPaintTest::textDirection()
     option.progress = 0;
     option.palette.setColor(QPalette::Text, plainText);
     // A lower half block, and a full one before it.
-    option.text = QString(QChar(0x2588)) + QString(3, QChar(0x2584));
+    option.text = blocks() + QString(3, QChar(0x2584));
     for (const bool bottomToTop : {true, false}) {
         option.bottomToTop = bottomToTop;
         const QImage label = recorder.picture(QStyle::CE_ProgressBarLabel, option, nullptr, canvas);

@@ -25,17 +25,3 @@ inline QStyleOptionProgressBar barOption(Qt::Orientation orientation,
     option.palette = QPalette();
     return option;
 }
-
-/// Returns the smallest rectangle that holds all pixels of \a color.
-inline QRect extentOf(const QImage &picture, const QColor &color)
-{
-    QRect extent;
-    for (int y = 0; y < picture.height(); ++y) {
-        for (int x = 0; x < picture.width(); ++x) {
-            if (picture.pixelColor(x, y) == color) {
-                extent |= QRect(x, y, 1, 1);
-            }
-        }
-    }
-    return extent;
-}

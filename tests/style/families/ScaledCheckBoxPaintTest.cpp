@@ -90,5 +90,4 @@ void ScaledCheckBoxPaintTest::knobIsAsWideAsHigh()
 }
 
 QTEST_MAIN(ScaledCheckBoxPaintTest)
-
 #include "ScaledCheckBoxPaintTest.moc"

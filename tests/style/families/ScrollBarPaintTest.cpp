@@ -1,3 +1,5 @@
+#include "style/families/ScrollBarSample.h"
+
 #include <QtTest/QtTest>
 #include <QtWidgets/QScrollArea>
 #include <QtWidgets/QScrollBar>
@@ -13,23 +15,8 @@ Q_DECLARE_METATYPE(QStyle::State)
 
 namespace {
 
-const QSize canvas(120, 120);
 constexpr QStyle::State enabled = QStyle::State_Enabled;
 constexpr QStyle::State hovered = QStyle::State_Enabled | QStyle::State_MouseOver;
-
-QStyleOptionSlider scrollBarOption(QStyle::State state, Qt::Orientation orientation)
-{
-    QStyleOptionSlider option;
-    option.rect = orientation == Qt::Horizontal ? QRect(0, 0, 120, 16) : QRect(0, 0, 16, 120);
-    option.state = state;
-    option.orientation = orientation;
-    option.maximum = 100;
-    option.sliderPosition = 50;
-    option.sliderValue = 50;
-    option.pageStep = 50;
-    option.subControls = QStyle::SC_All;
-    return option;
-}
 
 } // namespace
 
@@ -52,12 +39,8 @@ private Q_SLOTS:
     void groove();
     void grooveOfMinimizedBars_data();
     void grooveOfMinimizedBars();
-    void parts();
-    void absentParts();
     void onlyTheActivePartIsHovered_data();
     void onlyTheActivePartIsHovered();
-    void minimizedBarHasNoButtons();
-    void focus();
     void scrollBarNeedsItsOption();
     void hugeAndEmptyRectangles();
 };
@@ -302,48 +285,6 @@ void ScrollBarPaintTest::grooveOfMinimizedBars()
         text("GrooveBackgroundBrush"));
 }
 
-void ScrollBarPaintTest::parts()
-{
-    const PaintTheme theme;
-    CallRecorder recorder;
-    for (const char *part : {"CE_ScrollBarSlider", "CE_ScrollBarAddLine", "CE_ScrollBarSubLine"}) {
-        recorder.stopAt(part);
-    }
-    const QScrollBar scrollBar;
-    for (const auto orientation : {Qt::Horizontal, Qt::Vertical}) {
-        for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft}) {
-            QStyleOptionSlider option = scrollBarOption(QStyle::State_Enabled, orientation);
-            option.direction = direction;
-            recorder.picture(QStyle::CC_ScrollBar, option, &scrollBar, canvas);
-            QCOMPARE(recorder.elements(),
-                     (QStringList{text("CE_ScrollBarSubLine"), text("CE_ScrollBarAddLine"),
-                                  text("CE_ScrollBarSlider")}));
-            const auto rectOf = [&](QStyle::SubControl subControl) {
-                return recorder.subControlRect(QStyle::CC_ScrollBar, &option, subControl,
-                                               &scrollBar);
-            };
-            QCOMPARE(recorder.call("CE_ScrollBarSubLine").rect,
-                     rectOf(QStyle::SC_ScrollBarSubLine));
-            QCOMPARE(recorder.call("CE_ScrollBarAddLine").rect,
-                     rectOf(QStyle::SC_ScrollBarAddLine));
-            QCOMPARE(recorder.call("CE_ScrollBarSlider").rect, rectOf(QStyle::SC_ScrollBarSlider));
-        }
-    }
-}
-
-void ScrollBarPaintTest::absentParts()
-{
-    const PaintTheme theme;
-    CallRecorder recorder;
-    QStyleOptionSlider option = scrollBarOption(QStyle::State_Enabled, Qt::Horizontal);
-    option.subControls = QStyle::SC_ScrollBarGroove;
-    recorder.picture(QStyle::CC_ScrollBar, option, nullptr, canvas);
-    QCOMPARE(recorder.elements(), QStringList());
-    option.subControls = QStyle::SC_ScrollBarSlider;
-    recorder.picture(QStyle::CC_ScrollBar, option, nullptr, canvas);
-    QCOMPARE(recorder.elements(), QStringList{text("CE_ScrollBarSlider")});
-}
-
 void ScrollBarPaintTest::onlyTheActivePartIsHovered_data()
 {
     QTest::addColumn<QStyle::SubControl>("active");
@@ -369,30 +310,6 @@ void ScrollBarPaintTest::onlyTheActivePartIsHovered()
         QCOMPARE(recorder.call(part).state,
                  text(part) == hovered ? state : QStyle::State(QStyle::State_Enabled));
     }
-}
-
-void ScrollBarPaintTest::minimizedBarHasNoButtons()
-{
-    const PaintTheme theme;
-    CallRecorder recorder;
-    const MinimizedScrollBar line(Qt::Vertical);
-    QStyleOptionSlider option = scrollBarOption(QStyle::State_Enabled, Qt::Vertical);
-    option.rect.setWidth(5);
-    recorder.picture(QStyle::CC_ScrollBar, option, &line, canvas);
-    QCOMPARE(recorder.elements(), QStringList{text("CE_ScrollBarSlider")});
-}
-
-void ScrollBarPaintTest::focus()
-{
-    const PaintTheme theme;
-    CallRecorder recorder;
-    recorder.stopAt("PE_FrameFocusRect");
-    QStyleOptionSlider option = scrollBarOption(QStyle::State_Enabled, Qt::Horizontal);
-    recorder.picture(QStyle::CC_ScrollBar, option, nullptr, canvas);
-    QVERIFY(!recorder.elements().contains(text("PE_FrameFocusRect")));
-    option.state |= QStyle::State_HasFocus;
-    recorder.picture(QStyle::CC_ScrollBar, option, nullptr, canvas);
-    QCOMPARE(recorder.call("PE_FrameFocusRect").rect, option.rect);
 }
 
 void ScrollBarPaintTest::scrollBarNeedsItsOption()

@@ -6,10 +6,10 @@
 #include <cmath>
 #include <support/Text.h>
 #include <support/painting/CallRecorder.h>
+#include <support/painting/Pixels.h>
 #include <support/themes/PaintTheme.h>
 
 Q_DECLARE_METATYPE(QStyle::State)
-Q_DECLARE_METATYPE(QStyle::SubControls)
 
 namespace {
 
@@ -22,26 +22,6 @@ QString grooveAt(const PaintTheme &theme, const QImage &picture, Qt::Orientation
 {
     return theme.nameAt(picture, orientation == Qt::Horizontal ? QPoint(position, 12)
                                                                : QPoint(12, position));
-}
-
-/// Tells whether the colours look the same: pixels on the edge of round shapes are slightly mixed.
-bool areAlike(const QColor &one, const QColor &other)
-{
-    return qAbs(one.red() - other.red()) + qAbs(one.green() - other.green()) +
-               qAbs(one.blue() - other.blue()) <
-           30;
-}
-
-bool areAlike(const QImage &one, const QImage &other)
-{
-    for (int y = 0; y < one.height(); ++y) {
-        for (int x = 0; x < one.width(); ++x) {
-            if (!areAlike(one.pixelColor(x, y), other.pixelColor(x, y))) {
-                return false;
-            }
-        }
-    }
-    return one.size() == other.size();
 }
 
 } // namespace
@@ -64,10 +44,6 @@ private Q_SLOTS:
     void handle_data();
     void handle();
     void handleIsRound();
-    void subControls_data();
-    void subControls();
-    void mirrored();
-    void focus();
     void sliderNeedsItsOption();
     void hugeAndEmptyRectangles();
 };
@@ -330,72 +306,6 @@ void SliderPaintTest::handleIsRound()
             }
         }
     }
-}
-
-void SliderPaintTest::subControls_data()
-{
-    QTest::addColumn<QStyle::SubControls>("subControls");
-    QTest::addColumn<QStringList>("names");
-    const QString grooveName = text("GrooveBackgroundBrush");
-    const QString filledName = text("MainSubLevel1Brush");
-    const QString foreground = text("InputForegroundBrush");
-    QTest::newRow("none") << QStyle::SubControls() << QStringList();
-    QTest::newRow("groove") << QStyle::SubControls(QStyle::SC_SliderGroove)
-                            << QStringList{grooveName, filledName};
-    QTest::newRow("handle") << QStyle::SubControls(QStyle::SC_SliderHandle)
-                            << QStringList{foreground};
-    QTest::newRow("ticks") << QStyle::SubControls(QStyle::SC_SliderTickmarks)
-                           << QStringList{foreground};
-}
-
-void SliderPaintTest::subControls()
-{
-    QFETCH(QStyle::SubControls, subControls);
-    QFETCH(QStringList, names);
-    const PaintTheme theme;
-    CallRecorder recorder;
-    QStyleOptionSlider option = sliderOption(Qt::Horizontal);
-    option.subControls = subControls;
-    option.tickPosition = QSlider::TicksBothSides;
-    const QImage picture = recorder.picture(QStyle::CC_Slider, option, nullptr, canvas);
-    QCOMPARE(theme.namesIn(picture), names);
-}
-
-/// The toolkit mirrors sliders by turning them upside down. Their direction mirrors nothing.
-void SliderPaintTest::mirrored()
-{
-    const PaintTheme theme(PaintTheme::Radii{2, 2, 2, 2});
-    CallRecorder recorder;
-    QStyleOptionSlider option = sliderOption(Qt::Horizontal);
-    option.subControls = QStyle::SC_All;
-    option.tickPosition = QSlider::TicksBothSides;
-    option.tickInterval = 25;
-    option.sliderPosition = 40;
-    const QSize size = option.rect.size();
-    const QImage plain = recorder.picture(QStyle::CC_Slider, option, nullptr, size);
-    const QImage reflection = plain.mirrored(true, false);
-    QVERIFY(!areAlike(plain, reflection));
-    option.upsideDown = true;
-    QVERIFY(areAlike(recorder.picture(QStyle::CC_Slider, option, nullptr, size), reflection));
-    option.direction = Qt::RightToLeft;
-    QVERIFY(areAlike(recorder.picture(QStyle::CC_Slider, option, nullptr, size), reflection));
-    option.upsideDown = false;
-    QCOMPARE(recorder.picture(QStyle::CC_Slider, option, nullptr, size), plain);
-}
-
-void SliderPaintTest::focus()
-{
-    const PaintTheme theme;
-    CallRecorder recorder;
-    recorder.stopAt("PE_FrameFocusRect");
-    QStyleOptionSlider option = sliderOption(Qt::Horizontal);
-    recorder.picture(QStyle::CC_Slider, option, nullptr, canvas);
-    QCOMPARE(recorder.elements(), QStringList());
-    option.state |= QStyle::State_HasFocus | QStyle::State_KeyboardFocusChange;
-    recorder.picture(QStyle::CC_Slider, option, nullptr, canvas);
-    QCOMPARE(recorder.elements(), QStringList{text("PE_FrameFocusRect")});
-    QCOMPARE(recorder.calls().front().rect, option.rect);
-    QCOMPARE(recorder.calls().front().state, option.state);
 }
 
 void SliderPaintTest::sliderNeedsItsOption()

@@ -1,40 +1,22 @@
+#include "style/families/SpinBoxSample.h"
+
 #include <QtGui/QPainter>
 #include <QtTest/QtTest>
 #include <QtWidgets/QSpinBox>
 
 #include <support/Text.h>
 #include <support/painting/CallRecorder.h>
+#include <support/painting/OddRectangles.h>
 #include <support/themes/PaintTheme.h>
 
 namespace {
 
-constexpr QSize size(80, 26);
-// The sub-controls, as the geometry of the style places them in that size.
-constexpr QRect upButton(65, 0, 14, 13);
-constexpr QRect downButton(65, 13, 14, 12);
 const QPoint inField(30, 13);
 const QPoint onTop(30, 0);
 // Corners of the buttons' faces that no arrow reaches.
 const QPoint inUpFace(66, 2);
 const QPoint inDownFace(66, 23);
 constexpr QColor ground(1, 2, 3);
-
-QStyleOptionSpinBox spinBoxOption(QStyle::State state = QStyle::State_Enabled)
-{
-    QStyleOptionSpinBox option;
-    option.rect = QRect(QPoint(), size);
-    option.state = state;
-    option.frame = true;
-    option.stepEnabled = QAbstractSpinBox::StepUpEnabled | QAbstractSpinBox::StepDownEnabled;
-    option.subControls = QStyle::SC_SpinBoxFrame | QStyle::SC_SpinBoxEditField |
-                         QStyle::SC_SpinBoxUp | QStyle::SC_SpinBoxDown;
-    return option;
-}
-
-QStringList indicators(const CallRecorder &recorder)
-{
-    return recorder.elements().filter(text("PE_Indicator"));
-}
 
 /// Returns the ground on which signs are painted.
 QImage signGround()
@@ -58,10 +40,6 @@ private Q_SLOTS:
     void field();
     void errorIsOutlined();
     void framelessFieldReachesTheEdges();
-    void indicatorsReachTheProxy_data();
-    void indicatorsReachTheProxy();
-    void hiddenButtonIsNotPainted();
-    void impossibleStepLooksDisabled();
     void usedButtonHasAFace_data();
     void usedButtonHasAFace();
     void onlyTheActiveButtonIsUsed();
@@ -104,7 +82,7 @@ void SpinBoxPaintTest::field()
     for (const QWidget *widget :
          {static_cast<const QWidget *>(&spinBox), static_cast<const QWidget *>(nullptr)}) {
         const QImage picture =
-            recorder.picture(QStyle::CC_SpinBox, spinBoxOption(state), widget, size);
+            recorder.picture(QStyle::CC_SpinBox, spinBoxOption(state), widget, sampleSize);
         for (const QPoint &pixel : {onTop, QPoint(0, 0), QPoint(79, 0), QPoint(79, 25)}) {
             QCOMPARE(theme.nameAt(picture, pixel), border);
         }
@@ -121,7 +99,7 @@ void SpinBoxPaintTest::errorIsOutlined()
     spinBox.setProperty("drawErrorIndicator", true);
     const QImage picture = recorder.picture(
         QStyle::CC_SpinBox, spinBoxOption(QStyle::State_Enabled | QStyle::State_HasFocus), &spinBox,
-        size);
+        sampleSize);
     QCOMPARE(theme.nameAt(picture, onTop), text("StatusDangerColor"));
 }
 
@@ -131,72 +109,10 @@ void SpinBoxPaintTest::framelessFieldReachesTheEdges()
     CallRecorder recorder;
     QStyleOptionSpinBox option = spinBoxOption(QStyle::State_Enabled | QStyle::State_HasFocus);
     option.frame = false;
-    const QImage picture = recorder.picture(QStyle::CC_SpinBox, option, nullptr, size, ground);
+    const QImage picture =
+        recorder.picture(QStyle::CC_SpinBox, option, nullptr, sampleSize, ground);
     for (const QPoint &pixel : {onTop, QPoint(0, 0), QPoint(79, 25)}) {
         QCOMPARE(theme.nameAt(picture, pixel), text("InputUncheckedBackgroundBrush"));
-    }
-}
-
-void SpinBoxPaintTest::indicatorsReachTheProxy_data()
-{
-    QTest::addColumn<QAbstractSpinBox::ButtonSymbols>("symbols");
-    QTest::addColumn<QStringList>("expected");
-    QTest::newRow("arrows") << QAbstractSpinBox::UpDownArrows
-                            << QStringList{text("PE_IndicatorSpinUp"),
-                                           text("PE_IndicatorSpinDown")};
-    QTest::newRow("signs") << QAbstractSpinBox::PlusMinus
-                           << QStringList{text("PE_IndicatorSpinPlus"),
-                                          text("PE_IndicatorSpinMinus")};
-    QTest::newRow("no buttons") << QAbstractSpinBox::NoButtons << QStringList();
-}
-
-void SpinBoxPaintTest::indicatorsReachTheProxy()
-{
-    QFETCH(QAbstractSpinBox::ButtonSymbols, symbols);
-    QFETCH(QStringList, expected);
-    const PaintTheme theme;
-    CallRecorder recorder;
-    QStyleOptionSpinBox option = spinBoxOption();
-    option.buttonSymbols = symbols;
-    recorder.picture(QStyle::CC_SpinBox, option, nullptr, size);
-    QCOMPARE(indicators(recorder), expected);
-    if (expected.isEmpty()) {
-        return;
-    }
-    QVERIFY(upButton.contains(recorder.calls().front().rect));
-    QVERIFY(downButton.contains(recorder.calls().back().rect.adjusted(0, 1, 0, 0)));
-}
-
-void SpinBoxPaintTest::hiddenButtonIsNotPainted()
-{
-    const PaintTheme theme;
-    CallRecorder recorder;
-    QStyleOptionSpinBox option = spinBoxOption();
-    option.subControls &= ~QStyle::SC_SpinBoxUp;
-    recorder.picture(QStyle::CC_SpinBox, option, nullptr, size);
-    QCOMPARE(indicators(recorder), QStringList{text("PE_IndicatorSpinDown")});
-}
-
-void SpinBoxPaintTest::impossibleStepLooksDisabled()
-{
-    const PaintTheme theme;
-    for (const auto symbols : {QAbstractSpinBox::UpDownArrows, QAbstractSpinBox::PlusMinus}) {
-        CallRecorder recorder;
-        QStyleOptionSpinBox option =
-            spinBoxOption(QStyle::State_Enabled | QStyle::State_MouseOver | QStyle::State_Sunken);
-        option.buttonSymbols = symbols;
-        option.activeSubControls = QStyle::SC_SpinBoxDown;
-        option.stepEnabled = QAbstractSpinBox::StepUpEnabled;
-        const QImage picture = recorder.picture(QStyle::CC_SpinBox, option, nullptr, size);
-        QCOMPARE(theme.namesIn(picture.copy(upButton.adjusted(0, 1, 0, 0))),
-                 QStringList({text("InputUncheckedBackgroundBrush"),
-                              text("InputUncheckedForegroundBrush")}));
-        // Pressing it does nothing, and so looks like nothing.
-        QCOMPARE(theme.namesIn(picture.copy(downButton)),
-                 QStringList({text("InputUncheckedBackgroundBrush"),
-                              text("InputUncheckedForegroundBrushDisabled")}));
-        QVERIFY(recorder.calls().front().state.testFlag(QStyle::State_Enabled));
-        QVERIFY(!recorder.calls().back().state.testFlag(QStyle::State_Enabled));
     }
 }
 
@@ -229,7 +145,7 @@ void SpinBoxPaintTest::usedButtonHasAFace()
     CallRecorder recorder;
     QStyleOptionSpinBox option = spinBoxOption(state);
     option.activeSubControls = button;
-    const QImage picture = recorder.picture(QStyle::CC_SpinBox, option, nullptr, size);
+    const QImage picture = recorder.picture(QStyle::CC_SpinBox, option, nullptr, sampleSize);
     const bool isUp = button == QStyle::SC_SpinBoxUp;
     QCOMPARE(theme.nameAt(picture, isUp ? inUpFace : inDownFace), background);
     QVERIFY(theme.shows(picture.copy(isUp ? upButton : downButton), foreground));
@@ -245,7 +161,7 @@ void SpinBoxPaintTest::onlyTheActiveButtonIsUsed()
     QStyleOptionSpinBox option = spinBoxOption(QStyle::State_Enabled | QStyle::State_MouseOver |
                                                QStyle::State_Sunken | QStyle::State_On);
     option.activeSubControls = QStyle::SC_SpinBoxEditField;
-    const QImage picture = recorder.picture(QStyle::CC_SpinBox, option, nullptr, size);
+    const QImage picture = recorder.picture(QStyle::CC_SpinBox, option, nullptr, sampleSize);
     QCOMPARE(theme.nameAt(picture, inUpFace), text("InputUncheckedBackgroundBrush"));
     QCOMPARE(theme.nameAt(picture, inDownFace), text("InputUncheckedBackgroundBrush"));
     for (const PaintCall &call : recorder.calls()) {
@@ -258,14 +174,15 @@ void SpinBoxPaintTest::faceKeepsToTheInside()
     const PaintTheme theme(PaintTheme::Radii{1, 5, 1, 1});
     CallRecorder recorder;
     QStyleOptionSpinBox option = spinBoxOption(QStyle::State_Enabled | QStyle::State_MouseOver);
-    const QImage atRest = recorder.picture(QStyle::CC_SpinBox, option, nullptr, size, ground);
+    const QImage atRest = recorder.picture(QStyle::CC_SpinBox, option, nullptr, sampleSize, ground);
     option.activeSubControls = QStyle::SC_SpinBoxUp;
-    const QImage hovered = recorder.picture(QStyle::CC_SpinBox, option, nullptr, size, ground);
+    const QImage hovered =
+        recorder.picture(QStyle::CC_SpinBox, option, nullptr, sampleSize, ground);
     // Where the outline is, round corner included, nothing has changed.
-    for (int x = 0; x < size.width(); ++x) {
+    for (int x = 0; x < sampleSize.width(); ++x) {
         QCOMPARE(hovered.pixelColor(x, 0), atRest.pixelColor(x, 0));
     }
-    for (int y = 0; y < size.height(); ++y) {
+    for (int y = 0; y < sampleSize.height(); ++y) {
         QCOMPARE(hovered.pixelColor(79, y), atRest.pixelColor(79, y));
     }
     QCOMPARE(theme.nameAt(hovered, inUpFace), text("ButtonUncheckedHoverBackgroundBrush"));
@@ -279,9 +196,9 @@ void SpinBoxPaintTest::rightToLeftIsTheMirrorImage()
     QStyleOptionSpinBox option = spinBoxOption(QStyle::State_Enabled | QStyle::State_MouseOver);
     option.buttonSymbols = QAbstractSpinBox::PlusMinus;
     option.activeSubControls = QStyle::SC_SpinBoxUp;
-    const QImage picture = recorder.picture(QStyle::CC_SpinBox, option, nullptr, size);
+    const QImage picture = recorder.picture(QStyle::CC_SpinBox, option, nullptr, sampleSize);
     option.direction = Qt::RightToLeft;
-    const QImage mirrored = recorder.picture(QStyle::CC_SpinBox, option, nullptr, size);
+    const QImage mirrored = recorder.picture(QStyle::CC_SpinBox, option, nullptr, sampleSize);
     QVERIFY(picture != mirrored);
     QCOMPARE(mirrored, picture.mirrored(true, false));
 }
@@ -291,9 +208,9 @@ void SpinBoxPaintTest::needsItsOption()
     const PaintTheme theme;
     CallRecorder recorder;
     QStyleOptionComplex option;
-    option.rect = QRect(QPoint(), size);
+    option.rect = QRect(QPoint(), sampleSize);
     option.state = QStyle::State_Enabled;
-    const QImage picture = recorder.picture(QStyle::CC_SpinBox, option, nullptr, size);
+    const QImage picture = recorder.picture(QStyle::CC_SpinBox, option, nullptr, sampleSize);
     QVERIFY(theme.namesIn(picture).isEmpty());
     QVERIFY(recorder.calls().empty());
 }
@@ -371,13 +288,8 @@ void SpinBoxPaintTest::translucentPlusIsEven()
 
 void SpinBoxPaintTest::anyRectangle_data()
 {
-    QTest::addColumn<QRect>("rect");
-    constexpr int far = 1 << 24;
-    QTest::newRow("null") << QRect();
-    QTest::newRow("negative") << QRect(5, 5, -10, -10);
-    QTest::newRow("one pixel") << QRect(5, 5, 1, 1);
+    addOddRectangles();
     QTest::newRow("narrow") << QRect(5, 5, 10, 20);
-    QTest::newRow("huge") << QRect(QPoint(-far, -far), QPoint(far, far));
 }
 
 void SpinBoxPaintTest::anyRectangle()
@@ -390,12 +302,13 @@ void SpinBoxPaintTest::anyRectangle()
         option.rect = rect;
         option.buttonSymbols = symbols;
         option.activeSubControls = QStyle::SC_SpinBoxUp;
-        const QImage picture = recorder.picture(QStyle::CC_SpinBox, option, nullptr, size, ground);
+        const QImage picture =
+            recorder.picture(QStyle::CC_SpinBox, option, nullptr, sampleSize, ground);
         QCOMPARE(picture.pixelColor(0, 0) == ground, !rect.isValid() || !rect.contains(0, 0));
         for (const auto sign : {QStyle::PE_IndicatorSpinMinus, QStyle::PE_IndicatorSpinPlus}) {
             QStyleOption signOption;
             signOption.rect = rect;
-            const QImage bars = recorder.picture(sign, signOption, nullptr, size, ground);
+            const QImage bars = recorder.picture(sign, signOption, nullptr, sampleSize, ground);
             QVERIFY(bars.pixelColor(0, 0) == ground || (rect.isValid() && rect.contains(0, 0)));
         }
     }

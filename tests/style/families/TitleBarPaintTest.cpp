@@ -1,9 +1,9 @@
+#include <QtGui/QPainter>
 #include <QtTest/QtTest>
-#include <QtWidgets/QDockWidget>
 
 #include <support/Text.h>
 #include <support/painting/CallRecorder.h>
-#include <support/painting/FusionPicture.h>
+#include <support/painting/Pixels.h>
 #include <support/themes/IconTheme.h>
 #include <support/themes/PaintTheme.h>
 
@@ -13,27 +13,9 @@ Q_DECLARE_METATYPE(QStyle::SubControl)
 namespace {
 
 constexpr QSize size(200, 24);
-constexpr QSize uprightSize(24, 200);
 
 const Qt::WindowFlags usualFlags = Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                                    Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint;
-
-QStyleOptionDockWidget dockTitle(const QString &title)
-{
-    QStyleOptionDockWidget option;
-    option.rect = QRect(QPoint(), size);
-    option.state = QStyle::State_Enabled;
-    option.title = title;
-    return option;
-}
-
-QStyleOptionDockWidget uprightDockTitle(const QString &title)
-{
-    QStyleOptionDockWidget option = dockTitle(title);
-    option.rect = QRect(QPoint(), uprightSize);
-    option.verticalTitleBar = true;
-    return option;
-}
 
 QStyleOptionTitleBar titleBar(bool isActive, Qt::WindowFlags flags = usualFlags,
                               Qt::WindowStates windowState = Qt::WindowNoState)
@@ -49,38 +31,14 @@ QStyleOptionTitleBar titleBar(bool isActive, Qt::WindowFlags flags = usualFlags,
     return option;
 }
 
-/// Returns how many pixels of \a picture are of \a color.
-int count(const QImage &picture, const QColor &color)
-{
-    int found = 0;
-    for (int y = 0; y < picture.height(); ++y) {
-        for (int x = 0; x < picture.width(); ++x) {
-            found += picture.pixelColor(x, y) == color ? 1 : 0;
-        }
-    }
-    return found;
-}
-
 } // namespace
 
-/// The titles of docks and of sub-windows.
+/// The titles of sub-windows.
 class TitleBarPaintTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void dock_data();
-    void dock();
-    void uprightDock();
-    void dockGrips_data();
-    void dockGrips();
-    void dockTextIsElided();
-    void dockTextHidesMnemonic();
-    void dockTextIsInFontOfWidget();
-    void disabledDockText();
-    void dockWithoutTitle();
-    void dockNeedsItsOption();
-
     void subWindow_data();
     void subWindow();
     void subWindowTitleFades();
@@ -97,10 +55,6 @@ private Q_SLOTS:
     void subWindowNeedsItsOption();
 
 private:
-    QImage dockPicture(const QStyleOptionDockWidget &option, const QWidget *widget = nullptr)
-    {
-        return m_recorder.picture(QStyle::CE_DockWidgetTitle, option, widget, option.rect.size());
-    }
     QImage barPicture(const QStyleOptionComplex &option)
     {
         return m_recorder.picture(QStyle::CC_TitleBar, option, nullptr, size);
@@ -123,145 +77,6 @@ private:
     PaintTheme m_theme;
     CallRecorder m_recorder;
 };
-
-void TitleBarPaintTest::dock_data()
-{
-    QTest::addColumn<bool>("enabled");
-    QTest::addColumn<QString>("suffix");
-    QTest::newRow("enabled") << true << QString();
-    QTest::newRow("disabled") << false << text("Disabled");
-}
-
-void TitleBarPaintTest::dock()
-{
-    QFETCH(bool, enabled);
-    QFETCH(QString, suffix);
-    QStyleOptionDockWidget option = dockTitle(QString());
-    option.state.setFlag(QStyle::State_Enabled, enabled);
-    QImage expected(size, QImage::Format_RGB32);
-    expected.fill(m_theme.brush(text("BackgroundUpLevel1Brush") + suffix));
-    QPainter painter(&expected);
-    painter.fillRect(0, size.height() - 1, size.width(), 1,
-                     m_theme.brush(text("CardBorderBrush") + suffix));
-    painter.end();
-    QCOMPARE(dockPicture(option), expected);
-}
-
-void TitleBarPaintTest::uprightDock()
-{
-    const QImage picture = dockPicture(uprightDockTitle(QString()));
-    QCOMPARE(m_theme.nameAt(picture, {23, 100}), text("CardBorderBrush"));
-    QCOMPARE(m_theme.nameAt(picture, {12, 199}), text("BackgroundUpLevel1Brush"));
-
-    // The text runs along the bar.
-    dockPicture(uprightDockTitle(text("Layers")));
-    const QRect textRect = m_recorder.call("drawItemText").rect;
-    QVERIFY(textRect.width() > textRect.height());
-    QVERIFY(textRect.width() <= uprightSize.height());
-}
-
-void TitleBarPaintTest::dockGrips_data()
-{
-    QTest::addColumn<bool>("isUpright");
-    QTest::addColumn<Qt::LayoutDirection>("direction");
-    QTest::addColumn<QRect>("start");
-    QTest::newRow("left to right") << false << Qt::LeftToRight << QRect(0, 0, 10, 24);
-    QTest::newRow("right to left") << false << Qt::RightToLeft << QRect(190, 0, 10, 24);
-    QTest::newRow("upright") << true << Qt::LeftToRight << QRect(0, 190, 24, 10);
-    QTest::newRow("upright, right to left") << true << Qt::RightToLeft << QRect(0, 190, 24, 10);
-}
-
-// What can be moved shows grips, which the title makes room for.
-void TitleBarPaintTest::dockGrips()
-{
-    QFETCH(bool, isUpright);
-    QFETCH(Qt::LayoutDirection, direction);
-    QFETCH(QRect, start);
-    m_recorder.stopAt("drawItemText");
-    const QString title = text("Layers");
-    QStyleOptionDockWidget option = isUpright ? uprightDockTitle(title) : dockTitle(title);
-    option.title.clear();
-    option.direction = direction;
-    const QImage fixed = dockPicture(option);
-    option.movable = true;
-    const QImage movable = dockPicture(option);
-    QRect difference;
-    for (int y = 0; y < fixed.height(); ++y) {
-        for (int x = 0; x < fixed.width(); ++x) {
-            if (fixed.pixel(x, y) != movable.pixel(x, y)) {
-                difference |= QRect(x, y, 1, 1);
-            }
-        }
-    }
-    QVERIFY(!difference.isEmpty());
-    QCOMPARE(start.united(difference), start);
-
-    option.title = title;
-    dockPicture(option);
-    const QRect movableText = m_recorder.call("drawItemText").rect;
-    option.movable = false;
-    dockPicture(option);
-    const QRect fixedText = m_recorder.call("drawItemText").rect;
-    QCOMPARE(fixedText.width() - movableText.width(), 8);
-    if (!isUpright) {
-        QVERIFY(!movableText.intersects(difference));
-        QVERIFY(fixedText.contains(movableText));
-    }
-}
-
-void TitleBarPaintTest::dockTextIsElided()
-{
-    QStyleOptionDockWidget option = dockTitle(text("Layers"));
-    dockPicture(option);
-    QCOMPARE(m_recorder.call("drawItemText").text, text("Layers"));
-    option.title = text("A title that does not fit into the title bar of a dock, far from it");
-    dockPicture(option);
-    const QString shown = m_recorder.call("drawItemText").text;
-    QVERIFY(shown.size() < option.title.size());
-    QVERIFY2(shown.endsWith(QChar(0x2026)), qPrintable(shown));
-}
-
-void TitleBarPaintTest::dockTextHidesMnemonic()
-{
-    QCOMPARE(dockPicture(dockTitle(text("&Layers"))), dockPicture(dockTitle(text("Layers"))));
-    QVERIFY(dockPicture(dockTitle(text("&&Layers"))) != dockPicture(dockTitle(text("Layers"))));
-}
-
-void TitleBarPaintTest::dockTextIsInFontOfWidget()
-{
-    QDockWidget dock;
-    QFont font = dock.font();
-    font.setPixelSize(8);
-    dock.setFont(font);
-    const QImage small = dockPicture(dockTitle(text("Layers")), &dock);
-    font.setPixelSize(16);
-    dock.setFont(font);
-    QVERIFY(dockPicture(dockTitle(text("Layers")), &dock) != small);
-}
-
-void TitleBarPaintTest::disabledDockText()
-{
-    QStyleOptionDockWidget option = dockTitle(text("Layers"));
-    dockPicture(option);
-    QCOMPARE(m_recorder.call("drawItemText").state, QStyle::State_Enabled);
-    option.state = QStyle::State_None;
-    dockPicture(option);
-    QCOMPARE(m_recorder.call("drawItemText").state, QStyle::State_None);
-}
-
-void TitleBarPaintTest::dockWithoutTitle()
-{
-    dockPicture(dockTitle(QString()));
-    QVERIFY(m_recorder.calls().empty());
-}
-
-void TitleBarPaintTest::dockNeedsItsOption()
-{
-    QStyleOption option;
-    option.rect = QRect(QPoint(), size);
-    QCOMPARE(m_recorder.picture(QStyle::CE_DockWidgetTitle, option, nullptr, size),
-             fusionPicture(QStyle::CE_DockWidgetTitle, option, nullptr, size));
-}
 
 void TitleBarPaintTest::subWindow_data()
 {
@@ -299,21 +114,21 @@ void TitleBarPaintTest::subWindowTitleFades()
     QStyleOptionTitleBar active = titleBar(true);
     active.subControls = QStyle::SC_TitleBarLabel;
     active.text = text("IIIIII");
-    QVERIFY(count(barPicture(active), Qt::red) > 0);
+    QVERIFY(countOf(barPicture(active), Qt::red) > 0);
     QStyleOptionTitleBar inactive = titleBar(false);
     inactive.subControls = QStyle::SC_TitleBarLabel;
     const QImage untitled = barPicture(inactive);
     inactive.text = active.text;
     const QImage titled = barPicture(inactive);
-    QCOMPARE(count(titled, Qt::red), 0);
+    QCOMPARE(countOf(titled, Qt::red), 0);
     QVERIFY(titled != untitled);
 
     // A disabled one is in the colour of its group.
     active.state.setFlag(QStyle::State_Enabled, false);
     active.palette.setColor(QPalette::Disabled, QPalette::WindowText, Qt::blue);
     const QImage disabled = barPicture(active);
-    QVERIFY(count(disabled, Qt::blue) > 0);
-    QCOMPARE(count(disabled, Qt::red), 0);
+    QVERIFY(countOf(disabled, Qt::blue) > 0);
+    QCOMPARE(countOf(disabled, Qt::red), 0);
 }
 
 void TitleBarPaintTest::subWindowTitleIsElided()
@@ -409,7 +224,7 @@ void TitleBarPaintTest::onlyWantedParts()
     option.subControls = QStyle::SC_TitleBarMaxButton;
     const QImage picture = barPicture(option);
     QCOMPARE(buttonRects(), QVector<QRect>{placeOf(option, QStyle::SC_TitleBarMaxButton)});
-    QCOMPARE(count(picture, Qt::red), 0);
+    QCOMPARE(countOf(picture, Qt::red), 0);
 }
 
 void TitleBarPaintTest::icon()
@@ -501,5 +316,4 @@ void TitleBarPaintTest::subWindowNeedsItsOption()
 }
 
 QTEST_MAIN(TitleBarPaintTest)
-
 #include "TitleBarPaintTest.moc"

@@ -1,10 +1,6 @@
 #include <QtCore/QMetaEnum>
 #include <QtTest/QtTest>
-#include <QtWidgets/QCheckBox>
-#include <QtWidgets/QComboBox>
-#include <QtWidgets/QTableView>
 
-#include <support/Components.h>
 #include <support/Text.h>
 #include <support/geometry/FusionReference.h>
 #include <support/geometry/WidgetSamples.h>
@@ -13,20 +9,6 @@ using TARN::BaseStyle;
 
 namespace {
 
-QStyleOptionViewItem itemOption(Qt::LayoutDirection direction)
-{
-    QStyleOptionViewItem option;
-    option.rect = QRect(10, 20, 200, 30);
-    option.direction = direction;
-    option.features = QStyleOptionViewItem::HasCheckIndicator |
-                      QStyleOptionViewItem::HasDecoration | QStyleOptionViewItem::HasDisplay;
-    option.decorationSize = QSize(16, 16);
-    option.text = text("Item");
-    return option;
-}
-
-constexpr Qt::LayoutDirection bothDirections[] = {Qt::LeftToRight, Qt::RightToLeft};
-
 /// Tells whether the base style asks the widget without looking whether there is one.
 bool needsWidget(QStyle::SubElement element)
 {
@@ -34,224 +16,23 @@ bool needsWidget(QStyle::SubElement element)
            element == QStyle::SE_TabBarScrollRightButton;
 }
 
-constexpr QStyle::SubElement itemElements[] = {
-    QStyle::SE_ItemViewItemCheckIndicator,
-    QStyle::SE_ItemViewItemDecoration,
-    QStyle::SE_ItemViewItemText,
-};
-
 } // namespace
 
-/// The rectangles of sub-elements, but for those of tabs.
+/// What is measured and placed as the base style does, and options that no row is made for.
 class GeometryTest : public QObject
 {
     Q_OBJECT
 
-private:
-    static void compareCheckBoxRect(QStyle::SubElement element);
-    /// Compares every rectangle of an item with that of the base style.
-    void compareItemsWithFusion(const QWidget *widget, const QStyleOption &option);
-
 private Q_SLOTS:
-    void checkBoxIndicator_data();
-    void checkBoxIndicator();
-    void checkBoxContents_data();
-    void checkBoxContents();
-    void checkBoxMetricsCanBeChanged();
-    void cascadingListItems();
-    void comboBoxListItems();
-    void itemsOfOtherViews();
-    void absentPartsOfItemsStayAbsent();
-    void listViewPaddingIsReadOnce();
     void otherElementsAreTheBaseStyles_data();
     void otherElementsAreTheBaseStyles();
-    void nothingCrashes();
+    void elementsTakeAnyOption();
+    void otherControlsAreTheBaseStyles();
+    void controlsTakeAnyOption();
+    void otherContentsAreTheBaseStyles_data();
+    void otherContentsAreTheBaseStyles();
+    void contentsTakeAnyOption();
 };
-
-void GeometryTest::checkBoxIndicator_data()
-{
-    QTest::addColumn<bool>("isSwitch");
-    QTest::addColumn<QRect>("rect");
-    QTest::addColumn<Qt::LayoutDirection>("direction");
-    QTest::addColumn<QRect>("expected");
-    const QRect high(0, 0, 100, 30);
-    const QRect moved(10, 20, 100, 21);
-    const QRect low(0, 0, 100, 10);
-    const auto left = Qt::LeftToRight;
-    const auto right = Qt::RightToLeft;
-    QTest::newRow("check box") << false << high << left << QRect(0, 8, 14, 14);
-    QTest::newRow("check box, mirrored") << false << high << right << QRect(86, 8, 14, 14);
-    QTest::newRow("switch") << true << high << left << QRect(0, 7, 28, 15);
-    QTest::newRow("switch, mirrored") << true << high << right << QRect(72, 7, 28, 15);
-    QTest::newRow("moved") << false << moved << left << QRect(10, 23, 14, 14);
-    QTest::newRow("moved, mirrored") << false << moved << right << QRect(96, 23, 14, 14);
-    QTest::newRow("moved switch") << true << moved << left << QRect(10, 23, 28, 15);
-    QTest::newRow("moved switch, mirrored") << true << moved << right << QRect(82, 23, 28, 15);
-    QTest::newRow("low") << false << low << left << QRect(0, -2, 14, 14);
-}
-
-void GeometryTest::checkBoxIndicator()
-{
-    compareCheckBoxRect(QStyle::SE_CheckBoxIndicator);
-}
-
-void GeometryTest::checkBoxContents_data()
-{
-    QTest::addColumn<bool>("isSwitch");
-    QTest::addColumn<QRect>("rect");
-    QTest::addColumn<Qt::LayoutDirection>("direction");
-    QTest::addColumn<QRect>("expected");
-    const QRect origin(0, 0, 100, 30);
-    const QRect moved(10, 20, 100, 21);
-    const auto left = Qt::LeftToRight;
-    const auto right = Qt::RightToLeft;
-    QTest::newRow("check box") << false << origin << left << QRect(19, 0, 80, 30);
-    QTest::newRow("check box, mirrored") << false << origin << right << QRect(1, 0, 80, 30);
-    QTest::newRow("switch") << true << origin << left << QRect(33, 0, 66, 30);
-    QTest::newRow("switch, mirrored") << true << origin << right << QRect(1, 0, 66, 30);
-    QTest::newRow("moved") << false << moved << left << QRect(29, 20, 80, 21);
-    QTest::newRow("moved, mirrored") << false << moved << right << QRect(11, 20, 80, 21);
-    QTest::newRow("moved switch, mirrored") << true << moved << right << QRect(11, 20, 66, 21);
-}
-
-void GeometryTest::checkBoxContents()
-{
-    compareCheckBoxRect(QStyle::SE_CheckBoxContents);
-}
-
-void GeometryTest::compareCheckBoxRect(QStyle::SubElement element)
-{
-    QFETCH(bool, isSwitch);
-    QFETCH(QRect, rect);
-    QFETCH(Qt::LayoutDirection, direction);
-    QFETCH(QRect, expected);
-    const BaseStyle style;
-    QCheckBox checkBox;
-    checkBox.setProperty("switch", isSwitch);
-    QStyleOptionButton button;
-    button.rect = rect;
-    button.direction = direction;
-    QCOMPARE(style.subElementRect(element, &button, &checkBox), expected);
-    QStyleOption plain;
-    plain.rect = rect;
-    plain.direction = direction;
-    QCOMPARE(style.subElementRect(element, &plain, &checkBox), expected);
-    if (!isSwitch) {
-        QCOMPARE(style.subElementRect(element, &plain, nullptr), expected);
-    }
-}
-
-void GeometryTest::checkBoxMetricsCanBeChanged()
-{
-    const ChangedStyle style({{QStyle::PM_IndicatorWidth, 20},
-                              {QStyle::PM_IndicatorHeight, 10},
-                              {QStyle::PM_CheckBoxLabelSpacing, 3}});
-    QStyleOptionButton button;
-    button.rect = QRect(0, 0, 100, 30);
-    QCOMPARE(style.subElementRect(QStyle::SE_CheckBoxIndicator, &button, nullptr),
-             QRect(0, 10, 20, 10));
-    QCOMPARE(style.subElementRect(QStyle::SE_CheckBoxContents, &button, nullptr),
-             QRect(22, 0, 77, 30));
-}
-
-void GeometryTest::cascadingListItems()
-{
-    const BaseStyle style;
-    const FusionReference reference;
-    TARN::Components::CascadingListViewPanel list;
-    for (const Qt::LayoutDirection direction : bothDirections) {
-        const QStyleOptionViewItem option = itemOption(direction);
-        for (const QStyle::SubElement element : itemElements) {
-            const QRect fusion = reference.fusionRect(element, option, &list);
-            QVERIFY(fusion.isValid());
-            const bool isText = element == QStyle::SE_ItemViewItemText;
-            QCOMPARE(style.subElementRect(element, &option, &list),
-                     fusion.adjusted(5, 0, isText ? -5 : 5, 0));
-        }
-    }
-    list.setViewMode(QListView::IconMode);
-    compareItemsWithFusion(&list, itemOption(Qt::LeftToRight));
-}
-
-void GeometryTest::comboBoxListItems()
-{
-    const BaseStyle style;
-    const FusionReference reference;
-    QComboBox comboBox;
-    auto *list = qobject_cast<QListView *>(comboBox.view());
-    QVERIFY(list);
-    QVERIFY(list->inherits("QComboBoxListView"));
-    for (const Qt::LayoutDirection direction : bothDirections) {
-        const QStyleOptionViewItem option = itemOption(direction);
-        for (const QStyle::SubElement element : itemElements) {
-            const QRect fusion = reference.fusionRect(element, option, list);
-            const bool isText = element == QStyle::SE_ItemViewItemText;
-            QCOMPARE(style.subElementRect(element, &option, list),
-                     fusion.translated(isText ? -1 : 0, 0));
-        }
-    }
-    list->setViewMode(QListView::IconMode);
-    compareItemsWithFusion(list, itemOption(Qt::LeftToRight));
-}
-
-void GeometryTest::itemsOfOtherViews()
-{
-    const QListView list;
-    const QTableView table;
-    const TARN::PeriodicTable::PeriodicTableView periodicTable;
-    const QWidget *views[] = {&list, &table, &periodicTable, nullptr};
-    for (const QWidget *view : views) {
-        for (const Qt::LayoutDirection direction : bothDirections) {
-            compareItemsWithFusion(view, itemOption(direction));
-        }
-    }
-}
-
-void GeometryTest::compareItemsWithFusion(const QWidget *widget, const QStyleOption &option)
-{
-    const BaseStyle style;
-    const FusionReference reference;
-    for (const QStyle::SubElement element : itemElements) {
-        QCOMPARE(style.subElementRect(element, &option, widget),
-                 reference.fusionRect(element, option, widget));
-    }
-}
-
-void GeometryTest::absentPartsOfItemsStayAbsent()
-{
-    QStyleOptionViewItem option = itemOption(Qt::LeftToRight);
-    option.features = QStyleOptionViewItem::HasDisplay;
-    const BaseStyle style;
-    const TARN::Components::CascadingListViewPanel list;
-    for (const auto element :
-         {QStyle::SE_ItemViewItemCheckIndicator, QStyle::SE_ItemViewItemDecoration}) {
-        QVERIFY(!style.subElementRect(element, &option, &list).isValid());
-    }
-    compareItemsWithFusion(nullptr, option);
-    const FusionReference reference;
-    QCOMPARE(style.subElementRect(QStyle::SE_ItemViewItemCheckIndicator, &option, &list),
-             reference.fusionRect(QStyle::SE_ItemViewItemCheckIndicator, option, &list));
-}
-
-void GeometryTest::listViewPaddingIsReadOnce()
-{
-    const int padding = int(BaseStyle::TARN_PM_ListViewPadding);
-    ChangedStyle first({{padding, 9}});
-    // Any element will do for the first call.
-    QStyleOptionButton button;
-    button.rect = QRect(0, 0, 100, 30);
-    first.subElementRect(QStyle::SE_PushButtonContents, &button, nullptr);
-    first.setMetric(padding, 20);
-
-    const BaseStyle second;
-    const FusionReference reference;
-    const TARN::Components::CascadingListViewPanel list;
-    const QStyleOptionViewItem option = itemOption(Qt::LeftToRight);
-    const auto element = QStyle::SE_ItemViewItemDecoration;
-    const QRect expected = reference.fusionRect(element, option, &list).translated(9, 0);
-    QCOMPARE(first.subElementRect(element, &option, &list), expected);
-    QCOMPARE(second.subElementRect(element, &option, &list), expected);
-}
 
 void GeometryTest::otherElementsAreTheBaseStyles_data()
 {
@@ -289,7 +70,7 @@ void GeometryTest::otherElementsAreTheBaseStyles()
     }
 }
 
-void GeometryTest::nothingCrashes()
+void GeometryTest::elementsTakeAnyOption()
 {
     const BaseStyle style;
     const auto elements = QMetaEnum::fromType<QStyle::SubElement>();
@@ -308,6 +89,113 @@ void GeometryTest::nothingCrashes()
             // Every widget with the option of every other.
             for (const WidgetSample &other : samples) {
                 style.subElementRect(element, other.option.get(), sample.widget.get());
+            }
+        }
+    }
+}
+
+void GeometryTest::otherControlsAreTheBaseStyles()
+{
+    const auto controls = QMetaEnum::fromType<QStyle::ComplexControl>();
+    int compared = 0;
+    for (const Qt::LayoutDirection direction : bothDirections) {
+        for (const WidgetSample &sample : widgetSamples(direction)) {
+            const auto *option =
+                qstyleoption_cast<const QStyleOptionComplex *>(sample.option.get());
+            for (int index = 0; option && index < controls.keyCount(); ++index) {
+                const auto control = QStyle::ComplexControl(controls.value(index));
+                if (!FusionReference::isOwn(control)) {
+                    compareWithFusion(control, *option, sample.widget.get());
+                    compareWithFusion(control, *option, nullptr);
+                    ++compared;
+                }
+            }
+        }
+    }
+    QVERIFY(compared > 50);
+    QStyleOptionTitleBar titleBar;
+    titleBar.rect = QRect(0, 0, 200, 20);
+    titleBar.titleBarFlags = Qt::Window | Qt::WindowSystemMenuHint | Qt::WindowTitleHint |
+                             Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint;
+    compareWithFusion(QStyle::CC_TitleBar, titleBar, nullptr);
+}
+
+void GeometryTest::controlsTakeAnyOption()
+{
+    const BaseStyle style;
+    const auto samples = widgetSamples(Qt::LeftToRight);
+    const QStyleOptionComplex plain;
+    std::vector<const QStyleOptionComplex *> options = {nullptr, &plain};
+    for (const WidgetSample &sample : samples) {
+        options.push_back(qstyleoption_cast<const QStyleOptionComplex *>(sample.option.get()));
+    }
+    for (const auto control : {QStyle::CC_SpinBox, QStyle::CC_ComboBox, QStyle::CC_ScrollBar,
+                               QStyle::CC_Slider, QStyle::CC_GroupBox}) {
+        for (const QStyleOptionComplex *option : options) {
+            for (const QStyle::SubControl part : subControlBits) {
+                style.subControlRect(control, option, part, nullptr);
+                for (const WidgetSample &sample : samples) {
+                    style.subControlRect(control, option, part, sample.widget.get());
+                }
+            }
+        }
+        QVERIFY(!style.subControlRect(control, nullptr, subControlBits[0], nullptr).isValid());
+    }
+}
+
+void GeometryTest::otherContentsAreTheBaseStyles_data()
+{
+    QTest::addColumn<QStyle::ContentsType>("type");
+    const auto types = QMetaEnum::fromType<QStyle::ContentsType>();
+    for (int index = 0; index < types.keyCount(); ++index) {
+        const auto type = QStyle::ContentsType(types.value(index));
+        if (!FusionReference::isOwn(type)) {
+            QTest::newRow(types.key(index)) << type;
+        }
+    }
+}
+
+void GeometryTest::otherContentsAreTheBaseStyles()
+{
+    QFETCH(QStyle::ContentsType, type);
+    for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+        for (const WidgetSample &sample : widgetSamples(direction)) {
+            for (const QSize &contents : {QSize(7, 9), QSize(80, 61)}) {
+                compareWithFusion(type, *sample.option, contents, sample.widget.get());
+                compareWithFusion(type, *sample.option, contents, nullptr);
+            }
+        }
+    }
+    QStyleOptionMenuItem item;
+    item.text = text("Item");
+    item.tabWidth = 12;
+    item.maxIconWidth = 16;
+    compareWithFusion(type, item, QSize(80, 20), nullptr);
+    item.menuItemType = QStyleOptionMenuItem::Separator;
+    compareWithFusion(type, item, QSize(80, 20), nullptr);
+}
+
+void GeometryTest::contentsTakeAnyOption()
+{
+    const BaseStyle style;
+    const auto types = QMetaEnum::fromType<QStyle::ContentsType>();
+    const auto samples = widgetSamples(Qt::LeftToRight);
+    const QStyleOption plain;
+    const QSize contents(20, 30);
+    for (int index = 0; index < types.keyCount(); ++index) {
+        const auto type = QStyle::ContentsType(types.value(index));
+        if (!FusionReference::isOwn(type)) {
+            continue;
+        }
+        QVERIFY(style.sizeFromContents(type, nullptr, contents, nullptr).isValid());
+        QVERIFY(style.sizeFromContents(type, &plain, contents, nullptr).isValid());
+        for (const WidgetSample &sample : samples) {
+            const QWidget *widget = sample.widget.get();
+            QVERIFY(style.sizeFromContents(type, nullptr, contents, widget).isValid());
+            QVERIFY(style.sizeFromContents(type, &plain, contents, widget).isValid());
+            // Every widget with the option of every other.
+            for (const WidgetSample &other : samples) {
+                style.sizeFromContents(type, other.option.get(), contents, widget);
             }
         }
     }

@@ -197,5 +197,4 @@ private Q_SLOTS:
 };
 
 QTEST_MAIN(ItemTextTest)
-
 #include "ItemTextTest.moc"

@@ -155,3 +155,23 @@ void compareWithFusion(QStyle::ComplexControl control, const QStyleOptionComplex
                  reference.fusionRect(control, option, part, widget));
     }
 }
+
+void compareWithFusion(QStyle::ContentsType type, const QStyleOption &option, const QSize &contents,
+                       const QWidget *widget)
+{
+    const TARN::BaseStyle style;
+    const FusionReference reference;
+    QCOMPARE(style.sizeFromContents(type, &option, contents, widget),
+             reference.fusionSize(type, option, contents, widget));
+}
+
+QStyleOptionButton buttonOption(const QStyleOption &option)
+{
+    QStyleOptionButton button;
+    button.rect = option.rect;
+    button.state = option.state;
+    button.direction = option.direction;
+    button.fontMetrics = option.fontMetrics;
+    button.palette = option.palette;
+    return button;
+}

@@ -3,6 +3,7 @@
 #include <style/BaseStyle.h>
 
 #include <QtCore/QMap>
+#include <QtWidgets/QStyleOption>
 
 /// What the theme's style starts from: "fusion" with the theme's metrics, hints and icons. What an
 /// element that the theme places or measures itself contributes to another is the theme's too, so
@@ -68,6 +69,8 @@ private:
     QMap<int, int> m_hints;
 };
 
+inline constexpr Qt::LayoutDirection bothDirections[] = {Qt::LeftToRight, Qt::RightToLeft};
+
 /// Every sub-control of any control is one of these.
 constexpr QStyle::SubControl subControlBits[] = {
     QStyle::SubControl(0x1),  QStyle::SubControl(0x2),  QStyle::SubControl(0x4),
@@ -78,3 +81,10 @@ constexpr QStyle::SubControl subControlBits[] = {
 /// Compares what the theme's style answers for every part of \a control with "fusion".
 void compareWithFusion(QStyle::ComplexControl control, const QStyleOptionComplex &option,
                        const QWidget *widget);
+
+/// Compares the size that the theme's style gives to \a contents with that of "fusion".
+void compareWithFusion(QStyle::ContentsType type, const QStyleOption &option, const QSize &contents,
+                       const QWidget *widget);
+
+/// Returns a button option with what \a option has in common with it.
+QStyleOptionButton buttonOption(const QStyleOption &option);

@@ -5,6 +5,7 @@
 
 #include <support/Text.h>
 #include <support/painting/CallRecorder.h>
+#include <support/painting/Pixels.h>
 #include <support/themes/PaintTheme.h>
 
 namespace {
@@ -15,14 +16,6 @@ constexpr QStyle::State hovered = enabled | QStyle::State_MouseOver;
 constexpr QSize pictureSize(120, 60);
 constexpr QRect buttonRect(10, 10, 80, 30);
 
-/// Returns a square in the colour that is tinted.
-QIcon squareIcon()
-{
-    QPixmap pixmap(16, 16);
-    pixmap.fill(QColor(0xe5, 0xee, 0xf4));
-    return QIcon(pixmap);
-}
-
 QStyleOptionToolButton toolButton(QStyle::State state)
 {
     QStyleOptionToolButton option;
@@ -32,12 +25,6 @@ QStyleOptionToolButton toolButton(QStyle::State state)
     option.iconSize = QSize(16, 16);
     option.toolButtonStyle = Qt::ToolButtonIconOnly;
     return option;
-}
-
-/// Returns a text that fills whole pixels.
-QString blocks()
-{
-    return QString(2, QChar(0x2588));
 }
 
 } // namespace
@@ -87,7 +74,7 @@ void ToolButtonLabelPaintTest::textColors()
 {
     QStyleOptionToolButton option = toolButton(enabled);
     option.toolButtonStyle = Qt::ToolButtonTextOnly;
-    option.text = blocks();
+    option.text = blocks(2);
     option.palette.setBrush(QPalette::Active, QPalette::ButtonText,
                             m_theme.brush(text("MainBrush")));
     option.palette.setBrush(QPalette::Disabled, QPalette::ButtonText,

@@ -4,6 +4,8 @@
 
 #include <support/Text.h>
 #include <support/painting/CallRecorder.h>
+#include <support/painting/OddRectangles.h>
+#include <support/painting/Pixels.h>
 #include <support/themes/PaintTheme.h>
 
 namespace {
@@ -15,14 +17,6 @@ constexpr QStyle::State hovered = QStyle::State_MouseOver;
 
 constexpr QSize pictureSize(120, 60);
 constexpr QRect buttonRect(10, 10, 80, 30);
-
-/// Returns a square in the colour that is tinted.
-QIcon squareIcon()
-{
-    QPixmap pixmap(16, 16);
-    pixmap.fill(QColor(0xe5, 0xee, 0xf4));
-    return QIcon(pixmap);
-}
 
 QStyleOptionToolButton toolButton(QStyle::State state)
 {
@@ -44,12 +38,6 @@ QStyleOptionToolButton splitButton(QStyle::State state, QStyle::SubControls acti
     option.activeSubControls = active;
     option.features = QStyleOptionToolButton::MenuButtonPopup | QStyleOptionToolButton::HasMenu;
     return option;
-}
-
-/// Returns a text that fills whole pixels.
-QString blocks()
-{
-    return QString(2, QChar(0x2588));
 }
 
 } // namespace
@@ -306,7 +294,7 @@ void ToolButtonPaintTest::labelTakesTheForeground()
 {
     const QToolButton widget;
     QStyleOptionToolButton option = toolButton(raised | hovered);
-    option.text = blocks();
+    option.text = blocks(2);
     option.toolButtonStyle = Qt::ToolButtonTextBesideIcon;
     const QImage picture = button(option, &widget);
 
@@ -320,7 +308,7 @@ void ToolButtonPaintTest::labelWithoutForeground()
     QToolButton widget;
     widget.setProperty("outline", true);
     QStyleOptionToolButton option = toolButton(raised);
-    option.text = blocks();
+    option.text = blocks(2);
     option.toolButtonStyle = Qt::ToolButtonTextBesideIcon;
     const QImage picture = button(option, &widget);
 
@@ -355,13 +343,8 @@ void ToolButtonPaintTest::needTheirOption()
 
 void ToolButtonPaintTest::oddRectangles_data()
 {
-    constexpr int far = 1 << 24;
-    QTest::addColumn<QRect>("rect");
-
-    QTest::newRow("empty") << QRect();
-    QTest::newRow("inside out") << QRect(20, 20, -10, -10);
-    QTest::newRow("huge") << QRect(-far, -far, 2 * far, 2 * far);
-    QTest::newRow("far away") << QRect(far, -far, 100, 30);
+    addOddRectangles();
+    QTest::newRow("far away") << QRect(farAway, -farAway, 100, 30);
 }
 
 void ToolButtonPaintTest::oddRectangles()

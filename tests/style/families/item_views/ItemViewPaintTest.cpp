@@ -10,6 +10,7 @@
 #include <support/Components.h>
 #include <support/Text.h>
 #include <support/painting/CallRecorder.h>
+#include <support/painting/OddRectangles.h>
 #include <support/themes/PaintTheme.h>
 
 namespace {
@@ -306,13 +307,7 @@ private Q_SLOTS:
         }
     }
 
-    void rectangles_data()
-    {
-        QTest::addColumn<QRect>("rect");
-        QTest::newRow("empty") << QRect();
-        QTest::newRow("inside out") << QRect(20, 20, -30, -30);
-        QTest::newRow("huge") << QRect(-(1 << 24), -(1 << 24), 1 << 25, 1 << 25);
-    }
+    void rectangles_data() { addOddRectangles(); }
 
     void rectangles()
     {
@@ -378,5 +373,4 @@ private Q_SLOTS:
 };
 
 QTEST_MAIN(ItemViewPaintTest)
-
 #include "ItemViewPaintTest.moc"

@@ -4,6 +4,7 @@
 
 #include <support/Text.h>
 #include <support/painting/CallRecorder.h>
+#include <support/painting/Pixels.h>
 #include <support/themes/IconTheme.h>
 #include <support/themes/PaintTheme.h>
 
@@ -24,24 +25,12 @@ QStyleOptionMenuItem itemOption(QStyle::State state)
     option.rect = itemRect;
     option.state = state;
     // A bar that fills whole pixels.
-    option.text = QString(3, QChar(0x2588));
+    option.text = blocks(3);
     option.palette.setBrush(QPalette::ButtonText, buttonTextColor);
     option.palette.setBrush(QPalette::HighlightedText, highlightedTextColor);
     option.palette.setBrush(QPalette::Disabled, QPalette::ButtonText, disabledTextColor);
     option.palette.setBrush(QPalette::Disabled, QPalette::HighlightedText, disabledTextColor);
     return option;
-}
-
-bool shows(const QImage &picture, const QColor &color)
-{
-    for (int y = 0; y < picture.height(); ++y) {
-        for (int x = 0; x < picture.width(); ++x) {
-            if (picture.pixelColor(x, y) == color) {
-                return true;
-            }
-        }
-    }
-    return false;
 }
 
 } // namespace
@@ -93,7 +82,7 @@ private Q_SLOTS:
         QCOMPARE(m_theme.nameAt(withText, corner), fill);
         QCOMPARE(m_theme.nameAt(withText, itemRect.bottomRight()), fill);
         QVERIFY(m_theme.nameAt(withText, itemRect.topLeft() - QPoint(1, 1)).isEmpty());
-        QVERIFY(shows(withText, foreground));
+        QVERIFY(containsColor(withText, foreground));
 
         QPixmap pixmap(16, 16);
         pixmap.fill(referenceForeground);
@@ -154,5 +143,4 @@ private Q_SLOTS:
 };
 
 QTEST_MAIN(MenuBarPaintTest)
-
 #include "MenuBarPaintTest.moc"

@@ -7,6 +7,7 @@
 
 #include <support/Text.h>
 #include <support/painting/CallRecorder.h>
+#include <support/painting/OddRectangles.h>
 #include <support/themes/PaintTheme.h>
 
 /// Menus and their entries.
@@ -330,14 +331,7 @@ private Q_SLOTS:
         QCOMPARE(m_theme.namesIn(other), QStringList());
     }
 
-    void rectangles_data()
-    {
-        QTest::addColumn<QRect>("rect");
-        QTest::newRow("empty") << QRect();
-        QTest::newRow("inside out") << QRect(20, 20, -30, -30);
-        QTest::newRow("a pixel") << QRect(20, 20, 1, 1);
-        QTest::newRow("huge") << QRect(-(1 << 24), -(1 << 24), 1 << 25, 1 << 25);
-    }
+    void rectangles_data() { addOddRectangles(); }
 
     void rectangles()
     {
@@ -359,5 +353,4 @@ private Q_SLOTS:
 };
 
 QTEST_MAIN(MenuPaintTest)
-
 #include "MenuPaintTest.moc"

@@ -1,9 +1,12 @@
+#include "style/families/tabs/TabLabelSample.h"
+
 #include <QtGui/QPainter>
 #include <QtTest/QtTest>
 #include <QtWidgets/QTabBar>
 
 #include <support/Text.h>
 #include <support/painting/CallRecorder.h>
+#include <support/painting/Pixels.h>
 #include <support/themes/PaintTheme.h>
 
 Q_DECLARE_METATYPE(QStyle::State)
@@ -11,54 +14,9 @@ Q_DECLARE_METATYPE(QTabBar::Shape)
 
 namespace {
 
-const QSize canvas(200, 200);
-const QRect horizontalTab(20, 20, 160, 40);
-const QRect verticalTab(20, 20, 40, 160);
-
 constexpr QStyle::State enabled = QStyle::State_Enabled;
 constexpr QStyle::State selected = QStyle::State_Selected;
 constexpr QStyle::State keyboardFocus = QStyle::State_HasFocus | QStyle::State_KeyboardFocusChange;
-const QColor paletteText(1, 2, 3);
-
-bool isVertical(QTabBar::Shape shape)
-{
-    return shape == QTabBar::RoundedWest || shape == QTabBar::RoundedEast ||
-           shape == QTabBar::TriangularWest || shape == QTabBar::TriangularEast;
-}
-
-/// The text is a full block: all of its pixels have the colour of the text.
-QStyleOptionTab tabOption(QStyle::State state, QTabBar::Shape shape = QTabBar::RoundedNorth)
-{
-    QStyleOptionTab option;
-    option.rect = isVertical(shape) ? verticalTab : horizontalTab;
-    option.state = state;
-    option.shape = shape;
-    option.text = QString(3, QChar(0x2588));
-    option.palette.setColor(QPalette::WindowText, paletteText);
-    return option;
-}
-
-/// An icon of one colour, that which icons are tinted from.
-QIcon plainIcon()
-{
-    QPixmap pixmap(16, 16);
-    pixmap.fill(QColor(text("#E5EEF4")));
-    return QIcon(pixmap);
-}
-
-/// Returns the smallest rectangle that holds all pixels of \a color.
-QRect extentOf(const QImage &picture, const QColor &color)
-{
-    QRect extent;
-    for (int y = 0; y < picture.height(); ++y) {
-        for (int x = 0; x < picture.width(); ++x) {
-            if (picture.pixelColor(x, y) == color) {
-                extent |= QRect(x, y, 1, 1);
-            }
-        }
-    }
-    return extent;
-}
 
 QString nameOfText(const PaintTheme &theme, const QImage &picture)
 {
@@ -68,59 +26,6 @@ QString nameOfText(const PaintTheme &theme, const QImage &picture)
     }
     return extentOf(picture, paletteText).isEmpty() ? QString() : text("palette");
 }
-
-/// A style whose answer on mnemonics can be chosen, and that keeps the flags and the font of texts.
-class TextRecorder : public QProxyStyle
-{
-public:
-    TextRecorder()
-        : QProxyStyle(new TARN::BaseStyle)
-    {
-    }
-
-    int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
-                  QStyleHintReturn *returnData) const override
-    {
-        return hint == SH_UnderlineShortcut
-                   ? int(isUnderlined)
-                   : QProxyStyle::styleHint(hint, option, widget, returnData);
-    }
-
-    int pixelMetric(PixelMetric metric, const QStyleOption *option,
-                    const QWidget *widget) const override
-    {
-        return metric == PM_TabBarTabHSpace ? 24 : QProxyStyle::pixelMetric(metric, option, widget);
-    }
-
-    void drawItemText(QPainter *painter, const QRect &rect, int flags, const QPalette & /*palette*/,
-                      bool /*isEnabled*/, const QString &text,
-                      QPalette::ColorRole /*role*/) const override
-    {
-        m_rect = rect;
-        m_flags = flags;
-        m_text = text;
-        m_isBold = painter->font().bold();
-        m_pixelSize = painter->font().pixelSize();
-    }
-
-    /// Draws the label; returns whether the painter has the same font and transform afterwards.
-    bool draw(const QStyleOptionTab &option, const QWidget *widget) const
-    {
-        QImage picture(canvas, QImage::Format_RGB32);
-        QPainter painter(&picture);
-        const QFont font = painter.font();
-        const QTransform transform = painter.transform();
-        drawControl(CE_TabBarTabLabel, &option, &painter, widget);
-        return painter.font() == font && painter.transform() == transform;
-    }
-
-    bool isUnderlined = true;
-    mutable QRect m_rect;
-    mutable int m_flags = 0;
-    mutable QString m_text;
-    mutable bool m_isBold = false;
-    mutable int m_pixelSize = 0;
-};
 
 } // namespace
 
@@ -137,12 +42,6 @@ private Q_SLOTS:
     void iconStandsBeforeTheText();
     void labelKeepsOffTheRightButton_data();
     void labelKeepsOffTheRightButton();
-    void fontOfTheBar();
-    void boldText_data();
-    void boldText();
-    void boldTextOfTheApplication();
-    void boldTextFindsRoom_data();
-    void boldTextFindsRoom();
     void mnemonics();
     void alignment_data();
     void alignment();
@@ -196,7 +95,7 @@ void TabLabelPaintTest::iconHasTheColorOfTheText()
     CallRecorder recorder;
     QStyleOptionTab option = tabOption(QStyle::State_Enabled | QStyle::State_MouseOver);
     option.text.clear();
-    option.icon = plainIcon();
+    option.icon = squareIcon();
     option.iconSize = QSize(16, 16);
     const QImage picture = recorder.picture(QStyle::CE_TabBarTabLabel, option, nullptr, canvas);
     const QColor color = theme.brush(text("TabForegroundMouseOverBrush"));
@@ -224,7 +123,7 @@ void TabLabelPaintTest::iconStandsBeforeTheText()
     QStyleOptionTab option = tabOption(QStyle::State_Enabled);
     option.text.clear();
     option.direction = direction;
-    option.icon = plainIcon();
+    option.icon = squareIcon();
     option.iconSize = QSize(16, 16);
     option.leftButtonSize = leftButton;
     const QImage picture = recorder.picture(QStyle::CE_TabBarTabLabel, option, nullptr, canvas);
@@ -264,7 +163,7 @@ void TabLabelPaintTest::labelKeepsOffTheRightButton()
     // The toolkit places buttons as if all tabs began at the top of their bar.
     option.rect.moveTop(0);
     option.direction = direction;
-    option.icon = plainIcon();
+    option.icon = squareIcon();
     option.iconSize = QSize(16, 16);
     option.rightButtonSize = QSize(20, 18);
     QVERIFY(recorder.draw(option, nullptr));
@@ -280,126 +179,6 @@ void TabLabelPaintTest::labelKeepsOffTheRightButton()
     QVERIFY(!button.intersects(icon));
     QVERIFY(!button.intersects(recorder.m_rect));
     QVERIFY(!icon.intersects(recorder.m_rect));
-}
-
-/// A painter that was not made for the bar knows no font, as that of a tab which is being moved.
-void TabLabelPaintTest::fontOfTheBar()
-{
-    const PaintTheme theme;
-    const TextRecorder recorder;
-    QTabBar bar;
-    QFont font = bar.font();
-    font.setPixelSize(27);
-    bar.setFont(font);
-    QVERIFY(recorder.draw(tabOption(QStyle::State_Enabled), &bar));
-    QCOMPARE(recorder.m_pixelSize, 27);
-
-    QImage picture(canvas, QImage::Format_RGB32);
-    QPainter painter(&picture);
-    font.setPixelSize(19);
-    painter.setFont(font);
-    const QStyleOptionTab option = tabOption(QStyle::State_Enabled);
-    recorder.drawControl(QStyle::CE_TabBarTabLabel, &option, &painter, &bar);
-    QCOMPARE(recorder.m_pixelSize, 19);
-}
-
-void TabLabelPaintTest::boldText_data()
-{
-    QTest::addColumn<QStyle::State>("state");
-    QTest::addColumn<bool>("isHighlighting");
-    QTest::addColumn<bool>("isBold");
-    QTest::newRow("rest") << enabled << false << false;
-    QTest::newRow("hovered") << (enabled | QStyle::State_MouseOver) << false << false;
-    QTest::newRow("selected") << (enabled | selected) << false << true;
-    QTest::newRow("disabled and selected") << selected << false << true;
-    QTest::newRow("highlighting, selected") << (enabled | selected) << true << false;
-}
-
-void TabLabelPaintTest::boldText()
-{
-    QFETCH(QStyle::State, state);
-    QFETCH(bool, isHighlighting);
-    QFETCH(bool, isBold);
-    const PaintTheme theme;
-    const TextRecorder recorder;
-    QTabBar tabBar;
-    tabBar.setProperty("currentTabHighlighted", isHighlighting);
-    QVERIFY(recorder.draw(tabOption(state), &tabBar));
-    QCOMPARE(recorder.m_isBold, isBold);
-}
-
-void TabLabelPaintTest::boldTextOfTheApplication()
-{
-    const PaintTheme theme;
-    const TextRecorder recorder;
-    const QStyleOptionTab option = tabOption(QStyle::State_Enabled | QStyle::State_Selected);
-    QVERIFY(recorder.draw(option, nullptr));
-    QVERIFY(recorder.m_isBold);
-    qApp->setProperty("appCurrentTabHighlighted", true);
-    const bool isRestored = recorder.draw(option, nullptr);
-    qApp->setProperty("appCurrentTabHighlighted", QVariant());
-    QVERIFY(isRestored);
-    QVERIFY(!recorder.m_isBold);
-}
-
-void TabLabelPaintTest::boldTextFindsRoom_data()
-{
-    QTest::addColumn<QSize>("leftButton");
-    QTest::addColumn<QSize>("rightButton");
-    QTest::addColumn<int>("padding");
-    QTest::addColumn<int>("mirroredPadding");
-    const QSize button(16, 16);
-    // Of the 12 pixels of padding at either side, 3 stay free; 2 more the text has anyway.
-    QTest::newRow("no buttons") << QSize() << QSize() << 2 + 18 << 2 + 18;
-    QTest::newRow("right button") << QSize() << button << 2 + 9 << 2 + 9;
-    QTest::newRow("left button") << button << QSize() << 2 + 9 << 2 + 9;
-    // In a mirrored tab both stand before the text.
-    QTest::newRow("two buttons") << button << button << 2 << 2 + 9;
-}
-
-/// Bold text is wider than the toolkit makes its tab. It takes the padding, as far as there is any;
-/// beyond that the text is plain, for which the tab has room.
-void TabLabelPaintTest::boldTextFindsRoom()
-{
-    QFETCH(QSize, leftButton);
-    QFETCH(QSize, rightButton);
-    QFETCH(int, padding);
-    QFETCH(int, mirroredPadding);
-    const PaintTheme theme;
-    const TextRecorder recorder;
-    QStyleOptionTab option = tabOption(QStyle::State_Enabled | QStyle::State_Selected);
-    option.text = text("Measurements");
-    option.leftButtonSize = leftButton;
-    option.rightButtonSize = rightButton;
-    QFont bold = QApplication::font();
-    bold.setBold(true);
-    // Fonts are measured for the device that is painted on.
-    QImage picture(canvas, QImage::Format_RGB32);
-    const int width = QFontMetrics(bold, &picture).size(0, option.text).width();
-    const auto buttonWidth = [](const QSize &size) {
-        return size.isEmpty() ? 0 : size.width() + 4;
-    };
-    for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft}) {
-        option.direction = direction;
-        const int rest = 24 + buttonWidth(leftButton) + buttonWidth(rightButton);
-        const bool isMirrored = direction == Qt::RightToLeft;
-        option.rect.setWidth(width - (isMirrored ? mirroredPadding : padding) + rest);
-        QVERIFY(recorder.draw(option, nullptr));
-        QVERIFY(recorder.m_isBold);
-        QCOMPARE(recorder.m_rect.width(), width);
-        const int atLeft = isMirrored ? 0 : buttonWidth(leftButton);
-        const int atRight = buttonWidth(rightButton) + (isMirrored ? buttonWidth(leftButton) : 0);
-        QVERIFY(recorder.m_rect.left() >= option.rect.left() + 3 + atLeft);
-        QVERIFY(recorder.m_rect.right() <= option.rect.right() - 1 - atRight);
-
-        option.rect.setWidth(option.rect.width() - 1);
-        QVERIFY(recorder.draw(option, nullptr));
-        QVERIFY(!recorder.m_isBold);
-        QCOMPARE(recorder.m_text, option.text);
-        QCOMPARE(recorder.m_rect,
-                 recorder.subElementRect(QStyle::SE_TabBarTabText, &option, nullptr)
-                     .translated(isMirrored ? -buttonWidth(rightButton) : 0, 0));
-    }
 }
 
 void TabLabelPaintTest::mnemonics()
@@ -479,7 +258,7 @@ void TabLabelPaintTest::sideTabsAreTurned()
         QVERIFY(verticalTab.contains(block));
         QVERIFY(block.height() > block.width());
         option.text.clear();
-        option.icon = plainIcon();
+        option.icon = squareIcon();
         option.iconSize = QSize(16, 16);
         picture = recorder.picture(QStyle::CE_TabBarTabLabel, option, nullptr, canvas);
         const QRect icon = extentOf(picture, paletteText);

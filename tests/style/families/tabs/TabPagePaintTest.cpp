@@ -9,6 +9,7 @@
 #include <QtWidgets/QTabWidget>
 #include <QtWidgets/QToolButton>
 
+#include <cmath>
 #include <support/Text.h>
 #include <support/painting/CallRecorder.h>
 #include <support/themes/PaintTheme.h>
@@ -22,6 +23,18 @@ const QRect baseRect(20, 20, 60, 40);
 const QRect pageRect(10, 30, 100, 60);
 
 constexpr QStyle::State enabled = QStyle::State_Enabled;
+
+const QRect tabRect(20, 20, 60, 40);
+
+QStyleOptionTab tabOption(QStyle::State state, QTabBar::Shape shape = QTabBar::RoundedNorth)
+{
+    QStyleOptionTab option;
+    option.rect = tabRect;
+    option.state = state;
+    option.shape = shape;
+    option.position = QStyleOptionTab::OnlyOneTab;
+    return option;
+}
 
 } // namespace
 
@@ -43,6 +56,7 @@ private Q_SLOTS:
     void closeButton_data();
     void closeButton();
     void closeButtonIsSizedByMetrics();
+    void baseLineOfADisabledTab();
 };
 
 void TabPagePaintTest::widgetFrame()
@@ -297,6 +311,21 @@ void TabPagePaintTest::closeButtonIsSizedByMetrics()
     }
     QCOMPARE(theme.nameAt(picture, face.topLeft() - QPoint(1, 0)), QString());
     QCOMPARE(theme.nameAt(picture, face.bottomRight() + QPoint(0, 1)), QString());
+}
+
+/// The line below the tabs goes on below a single tab that is disabled.
+void TabPagePaintTest::baseLineOfADisabledTab()
+{
+    const PaintTheme theme;
+    CallRecorder recorder;
+    QTabBar tabBar;
+    const QStyleOptionTab option = tabOption(QStyle::State_None);
+    const QPoint base = middleOfEdge(tabRect, Qt::BottomEdge);
+    QImage picture = recorder.picture(QStyle::CE_TabBarTabShape, option, &tabBar, canvas);
+    QCOMPARE(theme.nameAt(picture, base), text("CardBorderBrush"));
+    tabBar.setEnabled(false);
+    picture = recorder.picture(QStyle::CE_TabBarTabShape, option, &tabBar, canvas);
+    QCOMPARE(theme.nameAt(picture, base), text("CardBorderBrushDisabled"));
 }
 
 QTEST_MAIN(TabPagePaintTest)

@@ -6,6 +6,7 @@
 #include <cmath>
 #include <support/Text.h>
 #include <support/painting/CallRecorder.h>
+#include <support/painting/Pixels.h>
 #include <support/themes/PaintTheme.h>
 
 Q_DECLARE_METATYPE(QStyle::State)
@@ -30,15 +31,6 @@ constexpr QStyle::State enabled = QStyle::State_Enabled;
 constexpr QStyle::State selected = QStyle::State_Selected;
 constexpr QStyle::State keyboardFocus = QStyle::State_HasFocus | QStyle::State_KeyboardFocusChange;
 
-/// Tells whether the colours look the same: pixels on the edge of antialiased shapes are slightly
-/// mixed.
-bool areAlike(const QColor &one, const QColor &other)
-{
-    return qAbs(one.red() - other.red()) + qAbs(one.green() - other.green()) +
-               qAbs(one.blue() - other.blue()) <
-           30;
-}
-
 } // namespace
 
 /// The shapes of tabs.
@@ -56,7 +48,6 @@ private Q_SLOTS:
     void openTabStaysClosedToTheOutsideWhenScaled();
     void neighboursShareABorder_data();
     void neighboursShareABorder();
-    void baseLineOfADisabledTab();
     void radius_data();
     void radius();
     void roundCorners_data();
@@ -220,21 +211,6 @@ void TabPaintTest::neighboursShareABorder()
         QCOMPARE(theme.nameAt(picture, middleOfEdge(drawn.adjusted(-1, -1, 1, 1), edge)),
                  QString());
     }
-}
-
-/// The line below the tabs goes on below a single tab that is disabled.
-void TabPaintTest::baseLineOfADisabledTab()
-{
-    const PaintTheme theme;
-    CallRecorder recorder;
-    QTabBar tabBar;
-    const QStyleOptionTab option = tabOption(QStyle::State_None);
-    const QPoint base = middleOfEdge(tabRect, Qt::BottomEdge);
-    QImage picture = recorder.picture(QStyle::CE_TabBarTabShape, option, &tabBar, canvas);
-    QCOMPARE(theme.nameAt(picture, base), text("CardBorderBrush"));
-    tabBar.setEnabled(false);
-    picture = recorder.picture(QStyle::CE_TabBarTabShape, option, &tabBar, canvas);
-    QCOMPARE(theme.nameAt(picture, base), text("CardBorderBrushDisabled"));
 }
 
 void TabPaintTest::radius_data()

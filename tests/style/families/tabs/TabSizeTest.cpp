@@ -1,9 +1,9 @@
+#include "style/families/tabs/TabShapes.h"
+
 #include <QtTest/QtTest>
 #include <QtWidgets/QStyleOption>
 #include <QtWidgets/QTabWidget>
 
-#include <algorithm>
-#include <iterator>
 #include <support/Text.h>
 #include <support/geometry/FusionReference.h>
 
@@ -58,11 +58,6 @@ void setAll(QObject *object, const QByteArrayList &properties)
     }
 }
 
-constexpr QTabBar::Shape horizontalShapes[] = {QTabBar::RoundedNorth, QTabBar::RoundedSouth,
-                                               QTabBar::TriangularNorth, QTabBar::TriangularSouth};
-constexpr QTabBar::Shape verticalShapes[] = {QTabBar::RoundedWest, QTabBar::RoundedEast,
-                                             QTabBar::TriangularWest, QTabBar::TriangularEast};
-
 /// The extents of a bar that its tabs are to fill.
 constexpr QSize barSize(600, 480);
 
@@ -105,11 +100,7 @@ public:
     }
 
 private:
-    static bool isHorizontal(const QStyleOptionTab &option)
-    {
-        return std::find(std::begin(horizontalShapes), std::end(horizontalShapes), option.shape) !=
-               std::end(horizontalShapes);
-    }
+    static bool isHorizontal(const QStyleOptionTab &option) { return !isVertical(option.shape); }
 
     BaseStyle m_style;
     FusionReference m_reference;
@@ -300,13 +291,10 @@ void TabSizeTest::onlyTab_data()
     QTest::addColumn<bool>("hasParent");
     for (const bool hasParent : {true, false}) {
         const QByteArray suffix = hasParent ? " in a parent" : " alone";
-        for (const QTabBar::Shape shape : horizontalShapes) {
-            QTest::newRow("horizontal " + QByteArray::number(shape) + suffix)
-                << shape << 600 << hasParent;
-        }
-        for (const QTabBar::Shape shape : verticalShapes) {
-            QTest::newRow("vertical " + QByteArray::number(shape) + suffix)
-                << shape << 480 << hasParent;
+        for (const QTabBar::Shape shape : allShapes) {
+            const QByteArray name = isVertical(shape) ? "vertical " : "horizontal ";
+            QTest::newRow(name + QByteArray::number(shape) + suffix)
+                << shape << (isVertical(shape) ? 480 : 600) << hasParent;
         }
     }
 }

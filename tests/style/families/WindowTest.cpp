@@ -1,11 +1,18 @@
+#include <style/BaseStyle.h>
+
 #include <QtGui/QPainter>
 #include <QtTest/QtTest>
+#include <QtWidgets/QDialog>
 #include <QtWidgets/QDockWidget>
 #include <QtWidgets/QMainWindow>
+#include <QtWidgets/QScrollArea>
+#include <QtWidgets/QTextEdit>
 
 #include <support/Text.h>
 #include <support/painting/CallRecorder.h>
 #include <support/themes/PaintTheme.h>
+
+using TARN::BaseStyle;
 
 namespace {
 
@@ -23,8 +30,8 @@ QStyleOption windowOption(QStyle::State state = QStyle::State_Enabled)
 
 } // namespace
 
-/// The grounds and the frames of windows.
-class WindowPaintTest : public QObject
+/// The grounds, the frames and the shadows of windows.
+class WindowTest : public QObject
 {
     Q_OBJECT
 
@@ -37,6 +44,10 @@ private Q_SLOTS:
     void mainWindowInsideAnotherHasNoGround();
     void dockIsLight();
     void otherWidgetsHaveNoGround();
+    void backgroundsAreStyled();
+    void shadowsAreAllowed();
+    void shownWindowStaysShown();
+    void scrollAreaBackground();
 
 private:
     QImage background(const QWidget *widget)
@@ -46,9 +57,10 @@ private:
 
     PaintTheme m_theme;
     CallRecorder m_recorder;
+    BaseStyle m_style;
 };
 
-void WindowPaintTest::frame_data()
+void WindowTest::frame_data()
 {
     QTest::addColumn<bool>("enabled");
     QTest::addColumn<QString>("border");
@@ -56,7 +68,7 @@ void WindowPaintTest::frame_data()
     QTest::newRow("disabled") << false << text("CardBorderBrushDisabled");
 }
 
-void WindowPaintTest::frame()
+void WindowTest::frame()
 {
     QFETCH(bool, enabled);
     QFETCH(QString, border);
@@ -72,7 +84,7 @@ void WindowPaintTest::frame()
     }
 }
 
-void WindowPaintTest::frameIsCrisp_data()
+void WindowTest::frameIsCrisp_data()
 {
     QTest::addColumn<qreal>("scale");
     QTest::addColumn<QPoint>("origin");
@@ -87,7 +99,7 @@ void WindowPaintTest::frameIsCrisp_data()
 }
 
 // The frame is closed, equally wide on all sides, and nothing of it is blurred.
-void WindowPaintTest::frameIsCrisp()
+void WindowTest::frameIsCrisp()
 {
     QFETCH(qreal, scale);
     QFETCH(QPoint, origin);
@@ -114,7 +126,7 @@ void WindowPaintTest::frameIsCrisp()
     QCOMPARE(picture, expected);
 }
 
-void WindowPaintTest::mainWindowIsDark()
+void WindowTest::mainWindowIsDark()
 {
     const QMainWindow window;
     QImage expected(size, QImage::Format_RGB32);
@@ -122,7 +134,7 @@ void WindowPaintTest::mainWindowIsDark()
     QCOMPARE(background(&window), expected);
 }
 
-void WindowPaintTest::mainWindowInsideAnotherHasNoGround()
+void WindowTest::mainWindowInsideAnotherHasNoGround()
 {
     QMainWindow outer;
     auto *inner = new QMainWindow;
@@ -133,7 +145,7 @@ void WindowPaintTest::mainWindowInsideAnotherHasNoGround()
     QCOMPARE(background(inner), expected);
 }
 
-void WindowPaintTest::dockIsLight()
+void WindowTest::dockIsLight()
 {
     const QDockWidget dock;
     QImage expected(size, QImage::Format_RGB32);
@@ -141,7 +153,7 @@ void WindowPaintTest::dockIsLight()
     QCOMPARE(background(&dock), expected);
 }
 
-void WindowPaintTest::otherWidgetsHaveNoGround()
+void WindowTest::otherWidgetsHaveNoGround()
 {
     QImage expected(size, QImage::Format_RGB32);
     expected.fill(Qt::black);
@@ -150,6 +162,59 @@ void WindowPaintTest::otherWidgetsHaveNoGround()
     QCOMPARE(background(nullptr), expected);
 }
 
-QTEST_MAIN(WindowPaintTest)
+void WindowTest::backgroundsAreStyled()
+{
+    QMainWindow window;
+    QDockWidget docked;
+    window.addDockWidget(Qt::LeftDockWidgetArea, &docked);
+    QDockWidget floating;
+    QMainWindow inner(&window);
+    inner.setWindowFlags(Qt::Widget);
+    QDialog dialog;
+    for (QWidget *widget : {static_cast<QWidget *>(&window), static_cast<QWidget *>(&docked),
+                            static_cast<QWidget *>(&floating), static_cast<QWidget *>(&inner),
+                            static_cast<QWidget *>(&dialog)}) {
+        widget->setAttribute(Qt::WA_StyledBackground, false);
+        m_style.polish(widget);
+    }
+    QVERIFY(window.testAttribute(Qt::WA_StyledBackground));
+    QVERIFY(docked.testAttribute(Qt::WA_StyledBackground));
+    QVERIFY(floating.testAttribute(Qt::WA_StyledBackground));
+    QVERIFY(!inner.testAttribute(Qt::WA_StyledBackground));
+    QVERIFY(!dialog.testAttribute(Qt::WA_StyledBackground));
+}
 
-#include "WindowPaintTest.moc"
+void WindowTest::shadowsAreAllowed()
+{
+    QWidget plain(nullptr, Qt::Popup | Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint);
+    m_style.polish(&plain);
+    QCOMPARE(plain.windowFlags(), Qt::Popup | Qt::FramelessWindowHint);
+
+    QWidget child(&plain);
+    child.setWindowFlag(Qt::NoDropShadowWindowHint);
+    m_style.polish(&child);
+    QVERIFY(!child.windowFlags().testFlag(Qt::NoDropShadowWindowHint));
+}
+
+void WindowTest::shownWindowStaysShown()
+{
+    QWidget window;
+    window.show();
+    m_style.polish(&window);
+    QVERIFY(window.isVisible());
+}
+
+void WindowTest::scrollAreaBackground()
+{
+    QScrollArea area;
+    QTextEdit edit;
+    const QPalette::ColorRole before = edit.viewport()->backgroundRole();
+    QVERIFY(area.viewport()->backgroundRole() != QPalette::Light);
+    m_style.polish(&area);
+    m_style.polish(&edit);
+    QCOMPARE(area.viewport()->backgroundRole(), QPalette::Light);
+    QCOMPARE(edit.viewport()->backgroundRole(), before);
+}
+
+QTEST_MAIN(WindowTest)
+#include "WindowTest.moc"

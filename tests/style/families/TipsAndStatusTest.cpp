@@ -1,13 +1,37 @@
+#include <style/BaseStyle.h>
+
 #include <QtGui/QPainter>
 #include <QtTest/QtTest>
+#include <QtWidgets/QStatusBar>
+#include <QtWidgets/QToolBar>
 #include <QtWidgets/QToolTip>
 
 #include <support/Text.h>
 #include <support/painting/CallRecorder.h>
 #include <support/themes/PaintTheme.h>
 
-/// Tool tips.
-class TipPaintTest : public QObject
+using TARN::BaseStyle;
+
+namespace {
+
+constexpr QSize size(60, 40);
+
+const QRect wholePicture(QPoint(), size);
+
+QStyleOption plainOption(QStyle::State state)
+{
+    QStyleOption option;
+    option.rect = wholePicture;
+    option.state = state;
+    return option;
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(QStyle::State)
+
+/// Tool tips and status bars.
+class TipsAndStatusTest : public QObject
 {
     Q_OBJECT
 
@@ -15,13 +39,17 @@ private Q_SLOTS:
     void tip_data();
     void tip();
     void borderIsHairline();
+    void statusBarHeight();
+    void statusBar_data();
+    void statusBar();
 
 private:
     PaintTheme m_theme;
     CallRecorder m_recorder;
+    BaseStyle m_style;
 };
 
-void TipPaintTest::tip_data()
+void TipsAndStatusTest::tip_data()
 {
     QTest::addColumn<QString>("shown");
     QTest::addColumn<bool>("isAboutError");
@@ -31,7 +59,7 @@ void TipPaintTest::tip_data()
     QTest::newRow("other case") << text("<div class='ErrorTooltip'>Too long</div>") << false;
 }
 
-void TipPaintTest::tip()
+void TipsAndStatusTest::tip()
 {
     QFETCH(QString, shown);
     QFETCH(bool, isAboutError);
@@ -57,7 +85,7 @@ void TipPaintTest::tip()
     QCOMPARE(picture.pixelColor(15, 20), QColor(Qt::black));
 }
 
-void TipPaintTest::borderIsHairline()
+void TipsAndStatusTest::borderIsHairline()
 {
     QImage picture(60, 60, QImage::Format_RGB32);
     picture.setDevicePixelRatio(3);
@@ -78,6 +106,37 @@ void TipPaintTest::borderIsHairline()
     QCOMPARE(picture, expected);
 }
 
-QTEST_MAIN(TipPaintTest)
+void TipsAndStatusTest::statusBar_data()
+{
+    QTest::addColumn<QStyle::State>("state");
+    QTest::addColumn<QString>("suffix");
+    QTest::newRow("enabled") << QStyle::State(QStyle::State_Enabled) << QString();
+    QTest::newRow("disabled") << QStyle::State(QStyle::State_None) << text("Disabled");
+}
 
-#include "TipPaintTest.moc"
+void TipsAndStatusTest::statusBar()
+{
+    QFETCH(QStyle::State, state);
+    QFETCH(QString, suffix);
+    QImage expected(size, QImage::Format_RGB32);
+    expected.fill(m_theme.brush(text("BackgroundSubLevel1Brush") + suffix));
+    QPainter painter(&expected);
+    painter.fillRect(0, 0, size.width(), 1, m_theme.brush(text("CardBorderBrush") + suffix));
+    painter.end();
+    QCOMPARE(m_recorder.picture(QStyle::PE_PanelStatusBar, plainOption(state), nullptr, size),
+             expected);
+}
+
+void TipsAndStatusTest::statusBarHeight()
+{
+    QStatusBar bar;
+    m_style.polish(&bar);
+    QCOMPARE(bar.minimumHeight(), 34);
+    QToolBar other;
+    const int before = other.minimumHeight();
+    m_style.polish(&other);
+    QCOMPARE(other.minimumHeight(), before);
+}
+
+QTEST_MAIN(TipsAndStatusTest)
+#include "TipsAndStatusTest.moc"

@@ -7,6 +7,7 @@
 
 #include <support/Text.h>
 #include <support/painting/CallRecorder.h>
+#include <support/painting/Pixels.h>
 #include <support/themes/PaintTheme.h>
 
 namespace {
@@ -61,7 +62,7 @@ void showBusy(QProgressBar &bar, QStyle &style)
 } // namespace
 
 /// Busy progress bars and what moves them.
-class BusyBarPaintTest : public QObject
+class BusyBarTest : public QObject
 {
     Q_OBJECT
 
@@ -79,7 +80,7 @@ private Q_SLOTS:
 };
 
 /// Without a bar on the screen, the chunk stands in the middle of a tinted groove.
-void BusyBarPaintTest::busyBarAtRest()
+void BusyBarTest::busyBarAtRest()
 {
     const PaintTheme theme;
     CallRecorder recorder;
@@ -102,7 +103,7 @@ void BusyBarPaintTest::busyBarAtRest()
 }
 
 /// The chunk goes from one end to the other and back.
-void BusyBarPaintTest::busyBarMoves()
+void BusyBarTest::busyBarMoves()
 {
     const PaintTheme theme;
     AnimatedStyle style;
@@ -125,7 +126,7 @@ void BusyBarPaintTest::busyBarMoves()
     QVERIFY(chunkAt(0.8).left() < chunkAt(0.7).left());
 }
 
-void BusyBarPaintTest::busyBarIsMirrored()
+void BusyBarTest::busyBarIsMirrored()
 {
     const PaintTheme theme;
     AnimatedStyle style;
@@ -141,7 +142,7 @@ void BusyBarPaintTest::busyBarIsMirrored()
 }
 
 /// A busy bar asks for no more pictures than it takes to look smooth, and goes on asking.
-void BusyBarPaintTest::busyBarIsPaintedCalmly()
+void BusyBarTest::busyBarIsPaintedCalmly()
 {
     const PaintTheme theme;
     AnimatedStyle style;
@@ -156,7 +157,7 @@ void BusyBarPaintTest::busyBarIsPaintedCalmly()
     QVERIFY(bar.paintCount <= 2 + timer.elapsed() / 30);
 }
 
-void BusyBarPaintTest::hiddenBarComesToRest()
+void BusyBarTest::hiddenBarComesToRest()
 {
     const PaintTheme theme;
     AnimatedStyle style;
@@ -172,7 +173,7 @@ void BusyBarPaintTest::hiddenBarComesToRest()
     QCOMPARE(bar.findChildren<QAbstractAnimation *>().size(), 1);
 }
 
-void BusyBarPaintTest::finishedBarComesToRest()
+void BusyBarTest::finishedBarComesToRest()
 {
     const PaintTheme theme;
     AnimatedStyle style;
@@ -189,7 +190,7 @@ void BusyBarPaintTest::finishedBarComesToRest()
     QCOMPARE(bar.paintCount, 0);
 }
 
-void BusyBarPaintTest::nothingMoves_data()
+void BusyBarTest::nothingMoves_data()
 {
     QTest::addColumn<bool>("isAnimated");
     QTest::addColumn<int>("duration");
@@ -197,7 +198,7 @@ void BusyBarPaintTest::nothingMoves_data()
     QTest::newRow("no duration") << true << 0;
 }
 
-void BusyBarPaintTest::nothingMoves()
+void BusyBarTest::nothingMoves()
 {
     QFETCH(bool, isAnimated);
     QFETCH(int, duration);
@@ -216,7 +217,7 @@ void BusyBarPaintTest::nothingMoves()
 }
 
 /// A delegate paints bars on behalf of its view, which is not to be repainted time and again.
-void BusyBarPaintTest::otherWidgetsStandStill()
+void BusyBarTest::otherWidgetsStandStill()
 {
     const PaintTheme theme;
     CallRecorder recorder;
@@ -231,14 +232,14 @@ void BusyBarPaintTest::otherWidgetsStandStill()
     QVERIFY(!view.findChild<QAbstractAnimation *>());
 }
 
-void BusyBarPaintTest::labelOfABusyBar()
+void BusyBarTest::labelOfABusyBar()
 {
     const PaintTheme theme;
     CallRecorder recorder;
     QStyleOptionProgressBar option = barOption(Qt::Horizontal);
     option.maximum = 0;
     option.progress = 0;
-    option.text = QString(4, QChar(0x2588));
+    option.text = blocks(4);
     option.palette.setColor(QPalette::Text, plainText);
     option.palette.setColor(QPalette::HighlightedText, filledText);
     const QImage label = recorder.picture(QStyle::CE_ProgressBarLabel, option, nullptr, canvas);
@@ -246,5 +247,5 @@ void BusyBarPaintTest::labelOfABusyBar()
     QVERIFY(extentOf(label, filledText).isEmpty());
 }
 
-QTEST_MAIN(BusyBarPaintTest)
-#include "BusyBarPaintTest.moc"
+QTEST_MAIN(BusyBarTest)
+#include "BusyBarTest.moc"

@@ -1,57 +1,26 @@
-#include <QtTest/QtTest>
-#include <QtWidgets/QScrollArea>
-#include <QtWidgets/QSlider>
-#include <QtWidgets/QStyleFactory>
-#include <QtWidgets/QStyleOption>
+#include "style/families/SliderRects.h"
+#include "style/families/SliderSample.h"
 
-#include <support/Components.h>
+#include <QtTest/QtTest>
+#include <QtWidgets/QSlider>
+
+#include <cmath>
 #include <support/Text.h>
 #include <support/geometry/FusionReference.h>
+#include <support/painting/CallRecorder.h>
+#include <support/painting/Pixels.h>
+#include <support/themes/PaintTheme.h>
 
 using TARN::BaseStyle;
-using TARN::Components::MinimizedScrollBar;
 
-namespace {
+Q_DECLARE_METATYPE(QStyle::SubControls)
 
-constexpr Qt::LayoutDirection bothDirections[] = {Qt::LeftToRight, Qt::RightToLeft};
-
-QRect mirrored(const QRect &rect, const QRect &within)
-{
-    QRect result = rect;
-    result.moveLeft(within.left() + within.right() - rect.right());
-    return result;
-}
-
-QStyleOptionSlider sliderOption(const QRect &rect, Qt::Orientation orientation)
-{
-    QStyleOptionSlider option;
-    option.rect = rect;
-    option.orientation = orientation;
-    option.state = QStyle::State_Enabled;
-    if (orientation == Qt::Horizontal) {
-        option.state |= QStyle::State_Horizontal;
-    }
-    option.maximum = 100;
-    option.sliderPosition = 30;
-    option.sliderValue = 30;
-    option.pageStep = 10;
-    option.upsideDown = orientation == Qt::Vertical;
-    return option;
-}
-
-} // namespace
-
-/// The rectangles of the parts of sliders and scroll bars.
-class SliderGeometryTest : public QObject
+/// The sizes, the rectangles and the parts of sliders.
+class SliderTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void minimizedScrollBar_data();
-    void minimizedScrollBar();
-    void minimizedScrollBarInAScrollArea();
-    void minimizedScrollBarMetricsCanBeChanged();
-    void otherScrollBars();
     void sliderGroove_data();
     void sliderGroove();
     void sliderHandle_data();
@@ -59,113 +28,14 @@ private Q_SLOTS:
     void sliderHandleKeepsItsPosition();
     void sliderMetricsCanBeChanged();
     void sliderTickmarksAndOtherOptions();
+    void size();
+    void subControls_data();
+    void subControls();
+    void isMirrored();
+    void focus();
 };
 
-void SliderGeometryTest::minimizedScrollBar_data()
-{
-    QTest::addColumn<Qt::Orientation>("orientation");
-    QTest::addColumn<Qt::LayoutDirection>("direction");
-    QTest::newRow("horizontal") << Qt::Horizontal << Qt::LeftToRight;
-    QTest::newRow("horizontal, mirrored") << Qt::Horizontal << Qt::RightToLeft;
-    QTest::newRow("vertical") << Qt::Vertical << Qt::LeftToRight;
-    QTest::newRow("vertical, mirrored") << Qt::Vertical << Qt::RightToLeft;
-}
-
-void SliderGeometryTest::minimizedScrollBar()
-{
-    QFETCH(Qt::Orientation, orientation);
-    QFETCH(Qt::LayoutDirection, direction);
-    const bool isHorizontal = orientation == Qt::Horizontal;
-    const BaseStyle style;
-    const FusionReference reference;
-    const MinimizedScrollBar scrollBar(orientation);
-    QStyleOptionSlider option =
-        sliderOption(isHorizontal ? QRect(0, 0, 200, 5) : QRect(0, 0, 5, 200), orientation);
-    option.direction = direction;
-    const auto part = [&](QStyle::SubControl control) {
-        return style.subControlRect(QStyle::CC_ScrollBar, &option, control, &scrollBar);
-    };
-    const auto fusionPart = [&](QStyle::SubControl control) {
-        return reference.fusionRect(QStyle::CC_ScrollBar, option, control, &scrollBar);
-    };
-    for (const auto empty : {QStyle::SC_ScrollBarAddLine, QStyle::SC_ScrollBarSubLine,
-                             QStyle::SC_ScrollBarAddPage, QStyle::SC_ScrollBarSubPage}) {
-        QCOMPARE(part(empty), QRect());
-    }
-    QCOMPARE(part(QStyle::SC_ScrollBarGroove), option.rect);
-    for (const auto other : {QStyle::SC_ScrollBarFirst, QStyle::SC_ScrollBarLast}) {
-        QCOMPARE(part(other), fusionPart(other));
-    }
-    const QRect slider = fusionPart(QStyle::SC_ScrollBarSlider);
-    QCOMPARE(part(QStyle::SC_ScrollBarSlider),
-             isHorizontal ? slider.adjusted(-15, 0, 15, 0) : slider.adjusted(0, -15, 0, 15));
-}
-
-void SliderGeometryTest::minimizedScrollBarInAScrollArea()
-{
-    const BaseStyle style;
-    const FusionReference reference;
-    QScrollArea area;
-    area.setFrameStyle(QFrame::Box);
-    area.setLineWidth(3);
-    QCOMPARE(area.frameWidth(), 3);
-    // The nearest scroll area counts, at whatever distance it is.
-    QScrollArea outerArea;
-    outerArea.setFrameStyle(QFrame::NoFrame);
-    outerArea.setWidget(&area);
-    QWidget between(&area);
-    const MinimizedScrollBar horizontal(Qt::Horizontal, &between);
-    const MinimizedScrollBar vertical(Qt::Vertical, &area);
-    const auto control = QStyle::SC_ScrollBarSlider;
-
-    const QStyleOptionSlider wide = sliderOption(QRect(0, 0, 200, 5), Qt::Horizontal);
-    const QRect wideSlider = reference.fusionRect(QStyle::CC_ScrollBar, wide, control, &horizontal);
-    QCOMPARE(style.subControlRect(QStyle::CC_ScrollBar, &wide, control, &horizontal),
-             wideSlider.adjusted(-18, 0, 18, 3));
-    const QStyleOptionSlider high = sliderOption(QRect(0, 0, 5, 200), Qt::Vertical);
-    const QRect highSlider = reference.fusionRect(QStyle::CC_ScrollBar, high, control, &vertical);
-    QCOMPARE(style.subControlRect(QStyle::CC_ScrollBar, &high, control, &vertical),
-             highSlider.adjusted(3, -18, 0, 18));
-    outerArea.takeWidget();
-}
-
-void SliderGeometryTest::minimizedScrollBarMetricsCanBeChanged()
-{
-    const MinimizedScrollBar scrollBar(Qt::Horizontal);
-    const QStyleOptionSlider option = sliderOption(QRect(0, 0, 200, 5), Qt::Horizontal);
-    const auto slider = [&](const QStyle &style) {
-        return style.subControlRect(QStyle::CC_ScrollBar, &option, QStyle::SC_ScrollBarSlider,
-                                    &scrollBar);
-    };
-    const QMap<int, int> wide = {{QStyle::PM_ScrollBarExtent, 20}};
-    const QMap<int, int> shown = {{QStyle::SH_ScrollBar_Transient, 1}};
-    const ChangedStyle wider(wide);
-    const ChangedStyle widerFusion(wide, {}, QStyleFactory::create(text("fusion")));
-    QCOMPARE(slider(wider), slider(widerFusion).adjusted(-19, 0, 19, 0));
-    // A transient scroll bar has no buttons whose room there is to take.
-    const ChangedStyle transient({}, shown);
-    const ChangedStyle transientFusion({}, shown, QStyleFactory::create(text("fusion")));
-    QCOMPARE(slider(transient), slider(transientFusion).adjusted(1, 0, -1, 0));
-}
-
-void SliderGeometryTest::otherScrollBars()
-{
-    for (const auto orientation : {Qt::Horizontal, Qt::Vertical}) {
-        const QStyleOptionSlider option = sliderOption(QRect(0, 0, 200, 160), orientation);
-        const QScrollBar plain(orientation);
-        compareWithFusion(QStyle::CC_ScrollBar, option, &plain);
-        compareWithFusion(QStyle::CC_ScrollBar, option, nullptr);
-        MinimizedScrollBar scrollBar(orientation);
-        scrollBar.setProperty("minimized", false);
-        compareWithFusion(QStyle::CC_ScrollBar, option, &scrollBar);
-        scrollBar.setProperty("minimized", true);
-        QStyleOptionComplex otherOption;
-        otherOption.rect = option.rect;
-        compareWithFusion(QStyle::CC_ScrollBar, otherOption, &scrollBar);
-    }
-}
-
-void SliderGeometryTest::sliderGroove_data()
+void SliderTest::sliderGroove_data()
 {
     QTest::addColumn<Qt::Orientation>("orientation");
     QTest::addColumn<bool>("isRange");
@@ -197,7 +67,7 @@ void SliderGeometryTest::sliderGroove_data()
                                          << QRect(7, 0, 12, 100) << QRect(6, 0, 12, 100);
 }
 
-void SliderGeometryTest::sliderGroove()
+void SliderTest::sliderGroove()
 {
     QFETCH(Qt::Orientation, orientation);
     QFETCH(bool, isRange);
@@ -221,7 +91,7 @@ void SliderGeometryTest::sliderGroove()
     QCOMPARE(groove(&slider), expectedMirrored);
 }
 
-void SliderGeometryTest::sliderHandle_data()
+void SliderTest::sliderHandle_data()
 {
     QTest::addColumn<Qt::Orientation>("orientation");
     QTest::addColumn<bool>("isRange");
@@ -240,7 +110,7 @@ void SliderGeometryTest::sliderHandle_data()
     QTest::newRow("vertical range") << Qt::Vertical << true << 20 << high << 6 << 20;
 }
 
-void SliderGeometryTest::sliderHandle()
+void SliderTest::sliderHandle()
 {
     QFETCH(Qt::Orientation, orientation);
     QFETCH(bool, isRange);
@@ -266,7 +136,7 @@ void SliderGeometryTest::sliderHandle()
     }
 }
 
-void SliderGeometryTest::sliderHandleKeepsItsPosition()
+void SliderTest::sliderHandleKeepsItsPosition()
 {
     const BaseStyle style;
     QStyleOptionSlider option = sliderOption(QRect(0, 0, 100, 25), Qt::Horizontal);
@@ -281,7 +151,7 @@ void SliderGeometryTest::sliderHandleKeepsItsPosition()
     QCOMPARE(left(100), 100 - 14);
 }
 
-void SliderGeometryTest::sliderMetricsCanBeChanged()
+void SliderTest::sliderMetricsCanBeChanged()
 {
     const ChangedStyle style({{QStyle::PM_SliderLength, 18}, {QStyle::PM_SliderThickness, 21}});
     const QStyleOptionSlider option = sliderOption(QRect(0, 0, 100, 25), Qt::Horizontal);
@@ -295,7 +165,7 @@ void SliderGeometryTest::sliderMetricsCanBeChanged()
     QCOMPARE(part(QStyle::SC_SliderGroove, &slider).height(), 18);
 }
 
-void SliderGeometryTest::sliderTickmarksAndOtherOptions()
+void SliderTest::sliderTickmarksAndOtherOptions()
 {
     const BaseStyle style;
     const FusionReference reference;
@@ -313,5 +183,96 @@ void SliderGeometryTest::sliderTickmarksAndOtherOptions()
     compareWithFusion(QStyle::CC_Slider, plain, &slider);
 }
 
-QTEST_MAIN(SliderGeometryTest)
-#include "SliderGeometryTest.moc"
+void SliderTest::size()
+{
+    const BaseStyle style;
+    const FusionReference reference;
+    const ChangedStyle changed(
+        {{QStyle::PM_SliderThickness, 20}, {QStyle::PM_SliderTickmarkOffset, 7}});
+    const auto type = QStyle::CT_Slider;
+    const QStyleOptionSlider option;
+    for (const QSize &contents : {QSize(84, 10), QSize(84, 90)}) {
+        const QSlider horizontal(Qt::Horizontal);
+        const QSize wide = reference.fusionSize(type, option, contents, &horizontal);
+        QCOMPARE(style.sizeFromContents(type, &option, contents, &horizontal),
+                 QSize(wide.width(), 25));
+        QCOMPARE(changed.sizeFromContents(type, &option, contents, &horizontal).height(), 34);
+        const QSlider vertical(Qt::Vertical);
+        const QSize high = reference.fusionSize(type, option, contents, &vertical);
+        QCOMPARE(style.sizeFromContents(type, &option, contents, &vertical),
+                 QSize(25, high.height()));
+        QCOMPARE(changed.sizeFromContents(type, &option, contents, &vertical).width(), 34);
+        const QWidget other;
+        compareWithFusion(type, option, contents, &other);
+        compareWithFusion(type, option, contents, nullptr);
+    }
+}
+
+void SliderTest::subControls_data()
+{
+    QTest::addColumn<QStyle::SubControls>("subControls");
+    QTest::addColumn<QStringList>("names");
+    const QString grooveName = text("GrooveBackgroundBrush");
+    const QString filledName = text("MainSubLevel1Brush");
+    const QString foreground = text("InputForegroundBrush");
+    QTest::newRow("none") << QStyle::SubControls() << QStringList();
+    QTest::newRow("groove") << QStyle::SubControls(QStyle::SC_SliderGroove)
+                            << QStringList{grooveName, filledName};
+    QTest::newRow("handle") << QStyle::SubControls(QStyle::SC_SliderHandle)
+                            << QStringList{foreground};
+    QTest::newRow("ticks") << QStyle::SubControls(QStyle::SC_SliderTickmarks)
+                           << QStringList{foreground};
+}
+
+void SliderTest::subControls()
+{
+    QFETCH(QStyle::SubControls, subControls);
+    QFETCH(QStringList, names);
+    const PaintTheme theme;
+    CallRecorder recorder;
+    QStyleOptionSlider option = sliderOption(Qt::Horizontal);
+    option.subControls = subControls;
+    option.tickPosition = QSlider::TicksBothSides;
+    const QImage picture = recorder.picture(QStyle::CC_Slider, option, nullptr, canvas);
+    QCOMPARE(theme.namesIn(picture), names);
+}
+
+/// The toolkit mirrors sliders by turning them upside down. Their direction mirrors nothing.
+void SliderTest::isMirrored()
+{
+    const PaintTheme theme(PaintTheme::Radii{2, 2, 2, 2});
+    CallRecorder recorder;
+    QStyleOptionSlider option = sliderOption(Qt::Horizontal);
+    option.subControls = QStyle::SC_All;
+    option.tickPosition = QSlider::TicksBothSides;
+    option.tickInterval = 25;
+    option.sliderPosition = 40;
+    const QSize size = option.rect.size();
+    const QImage plain = recorder.picture(QStyle::CC_Slider, option, nullptr, size);
+    const QImage reflection = plain.mirrored(true, false);
+    QVERIFY(!areAlike(plain, reflection));
+    option.upsideDown = true;
+    QVERIFY(areAlike(recorder.picture(QStyle::CC_Slider, option, nullptr, size), reflection));
+    option.direction = Qt::RightToLeft;
+    QVERIFY(areAlike(recorder.picture(QStyle::CC_Slider, option, nullptr, size), reflection));
+    option.upsideDown = false;
+    QCOMPARE(recorder.picture(QStyle::CC_Slider, option, nullptr, size), plain);
+}
+
+void SliderTest::focus()
+{
+    const PaintTheme theme;
+    CallRecorder recorder;
+    recorder.stopAt("PE_FrameFocusRect");
+    QStyleOptionSlider option = sliderOption(Qt::Horizontal);
+    recorder.picture(QStyle::CC_Slider, option, nullptr, canvas);
+    QCOMPARE(recorder.elements(), QStringList());
+    option.state |= QStyle::State_HasFocus | QStyle::State_KeyboardFocusChange;
+    recorder.picture(QStyle::CC_Slider, option, nullptr, canvas);
+    QCOMPARE(recorder.elements(), QStringList{text("PE_FrameFocusRect")});
+    QCOMPARE(recorder.calls().front().rect, option.rect);
+    QCOMPARE(recorder.calls().front().state, option.state);
+}
+
+QTEST_MAIN(SliderTest)
+#include "SliderTest.moc"

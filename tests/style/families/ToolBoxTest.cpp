@@ -1,9 +1,17 @@
-#include <QtTest/QtTest>
+#include <style/BaseStyle.h>
 
+#include <QtTest/QtTest>
+#include <QtWidgets/QHBoxLayout>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QToolBox>
+
+#include <support/NamedWidget.h>
 #include <support/Text.h>
 #include <support/painting/CallRecorder.h>
 #include <support/painting/FusionPicture.h>
 #include <support/themes/PaintTheme.h>
+
+using TARN::BaseStyle;
 
 Q_DECLARE_METATYPE(QStyleOptionToolBox::TabPosition)
 Q_DECLARE_METATYPE(QStyleOptionToolBox::SelectedPosition)
@@ -22,8 +30,8 @@ QStyleOptionToolBox tab(bool enabled)
 
 } // namespace
 
-/// The tabs of tool boxes.
-class ToolBoxPaintTest : public QObject
+/// Tool boxes: their tabs, and what polishing does to them.
+class ToolBoxTest : public QObject
 {
     Q_OBJECT
 
@@ -33,6 +41,8 @@ private Q_SLOTS:
     void topLine_data();
     void topLine();
     void needsItsOption();
+    void polishing();
+    void layoutsOfOtherWidgetsStay();
 
 private:
     QString nameAt(const QImage &picture, int x, int y) const
@@ -42,9 +52,10 @@ private:
 
     PaintTheme m_theme;
     CallRecorder m_recorder;
+    BaseStyle m_style;
 };
 
-void ToolBoxPaintTest::shape_data()
+void ToolBoxTest::shape_data()
 {
     QTest::addColumn<bool>("enabled");
     QTest::addColumn<QString>("suffix");
@@ -52,7 +63,7 @@ void ToolBoxPaintTest::shape_data()
     QTest::newRow("disabled") << false << text("Disabled");
 }
 
-void ToolBoxPaintTest::shape()
+void ToolBoxTest::shape()
 {
     QFETCH(bool, enabled);
     QFETCH(QString, suffix);
@@ -68,7 +79,7 @@ void ToolBoxPaintTest::shape()
     QCOMPARE(nameAt(picture, 30, 39), text("BackgroundUpLevel1Brush") + suffix);
 }
 
-void ToolBoxPaintTest::topLine_data()
+void ToolBoxTest::topLine_data()
 {
     QTest::addColumn<QStyleOptionToolBox::TabPosition>("position");
     QTest::addColumn<QStyleOptionToolBox::SelectedPosition>("selected");
@@ -83,7 +94,7 @@ void ToolBoxPaintTest::topLine_data()
 }
 
 // Tabs lie closely: the line between two is the bottom line of the upper one.
-void ToolBoxPaintTest::topLine()
+void ToolBoxTest::topLine()
 {
     QFETCH(QStyleOptionToolBox::TabPosition, position);
     QFETCH(QStyleOptionToolBox::SelectedPosition, selected);
@@ -96,7 +107,7 @@ void ToolBoxPaintTest::topLine()
              hasLine ? text("CardBorderBrush") : text("BackgroundUpLevel1Brush"));
 }
 
-void ToolBoxPaintTest::needsItsOption()
+void ToolBoxTest::needsItsOption()
 {
     QStyleOption option;
     option.rect = QRect(QPoint(), size);
@@ -104,6 +115,38 @@ void ToolBoxPaintTest::needsItsOption()
              fusionPicture(QStyle::CE_ToolBoxTabShape, option, nullptr, size));
 }
 
-QTEST_MAIN(ToolBoxPaintTest)
+void ToolBoxTest::polishing()
+{
+    QToolBox toolBox;
+    toolBox.addItem(new QWidget, text("First"));
+    toolBox.layout()->setContentsMargins(1, 2, 3, 4);
+    toolBox.layout()->setSpacing(5);
+    auto *button = toolBox.findChild<QAbstractButton *>();
+    QVERIFY(button->inherits("QToolBoxButton"));
+    m_style.polish(&toolBox);
+    m_style.polish(button);
+    QCOMPARE(toolBox.layout()->contentsMargins(), QMargins());
+    QCOMPARE(toolBox.layout()->spacing(), 0);
+    QCOMPARE(button->minimumHeight(), 42);
 
-#include "ToolBoxPaintTest.moc"
+    NamedWidget withoutLayout("QToolBox");
+    m_style.polish(&withoutLayout);
+    QVERIFY(!withoutLayout.layout());
+}
+
+void ToolBoxTest::layoutsOfOtherWidgetsStay()
+{
+    QFrame frame;
+    QHBoxLayout layout(&frame);
+    layout.setContentsMargins(1, 2, 3, 4);
+    layout.setSpacing(5);
+    m_style.polish(&frame);
+    QCOMPARE(layout.contentsMargins(), QMargins(1, 2, 3, 4));
+    QCOMPARE(layout.spacing(), 5);
+    QPushButton button;
+    m_style.polish(&button);
+    QCOMPARE(button.minimumHeight(), 0);
+}
+
+QTEST_MAIN(ToolBoxTest)
+#include "ToolBoxTest.moc"

@@ -1,31 +1,22 @@
+#include "style/families/tabs/TabShapes.h"
+
+#include <style/BaseStyle.h>
+
 #include <QtCore/QMetaEnum>
 #include <QtTest/QtTest>
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QStyleOption>
 #include <QtWidgets/QTabWidget>
 
+#include <support/NamedWidget.h>
 #include <support/Text.h>
 #include <support/geometry/FusionReference.h>
 #include <support/geometry/WidgetSamples.h>
+#include <support/themes/UniqueTheme.h>
 
 using TARN::BaseStyle;
 
 namespace {
-
-constexpr QTabBar::Shape allShapes[] = {
-    QTabBar::RoundedNorth,   QTabBar::RoundedSouth,    QTabBar::RoundedWest,
-    QTabBar::RoundedEast,    QTabBar::TriangularNorth, QTabBar::TriangularSouth,
-    QTabBar::TriangularWest, QTabBar::TriangularEast,
-};
-
-bool isWest(QTabBar::Shape shape)
-{
-    return shape == QTabBar::RoundedWest || shape == QTabBar::TriangularWest;
-}
-
-bool isEast(QTabBar::Shape shape)
-{
-    return shape == QTabBar::RoundedEast || shape == QTabBar::TriangularEast;
-}
 
 void addRowPerShape()
 {
@@ -52,16 +43,25 @@ QStyleOptionTab tabOption(QTabBar::Shape shape, Qt::LayoutDirection direction)
     return option;
 }
 
+void setProperties(QObject &object, const QString &names)
+{
+    for (const QString &name : names.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
+        object.setProperty(name.toLatin1().constData(), true);
+    }
+}
+
 } // namespace
 
 Q_DECLARE_METATYPE(QTabBar::Shape)
 
-/// The rectangles of tabs and of what is in them.
-class TabGeometryTest : public QObject
+/// The rectangles of tabs and of what is in them, and the fonts that they are given.
+class TabTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
+    void init();
+
     void tabWidgetTabBar_data() { addRowPerShape(); }
     void tabWidgetTabBar();
     void tabWidgetTabBarNeedsItsOption();
@@ -71,9 +71,17 @@ private Q_SLOTS:
     void tabText_data() { addRowPerShape(); }
     void tabText();
     void tabTextOfAnotherOption();
+    void tabFont_data();
+    void tabFont();
+    void tabSizesSetToFalse();
+    void propertiesCountWhenPolishedAgain();
+
+private:
+    UniqueTheme m_theme;
+    BaseStyle m_style;
 };
 
-void TabGeometryTest::tabWidgetTabBar()
+void TabTest::tabWidgetTabBar()
 {
     QFETCH(QTabBar::Shape, shape);
     QFETCH(Qt::LayoutDirection, direction);
@@ -94,7 +102,7 @@ void TabGeometryTest::tabWidgetTabBar()
 
     tabWidget.setProperty("stretched", true);
     QRect stretched = fusion;
-    if (isWest(shape) || isEast(shape)) {
+    if (isVertical(shape)) {
         stretched.setHeight(300);
     } else {
         stretched.setWidth(400);
@@ -106,7 +114,7 @@ void TabGeometryTest::tabWidgetTabBar()
     QCOMPARE(style.subElementRect(element, &option, &tabWidget), fusion);
 }
 
-void TabGeometryTest::tabWidgetTabBarNeedsItsOption()
+void TabTest::tabWidgetTabBarNeedsItsOption()
 {
     const BaseStyle style;
     const FusionReference reference;
@@ -126,7 +134,7 @@ void TabGeometryTest::tabWidgetTabBarNeedsItsOption()
              reference.fusionRect(element, plain, &tabWidget));
 }
 
-void TabGeometryTest::tabRightButton()
+void TabTest::tabRightButton()
 {
     QFETCH(QTabBar::Shape, shape);
     QFETCH(Qt::LayoutDirection, direction);
@@ -150,7 +158,7 @@ void TabGeometryTest::tabRightButton()
     QCOMPARE(style.subElementRect(element, &option, nullptr), expected);
 }
 
-void TabGeometryTest::tabRightButtonNeedsItsOption()
+void TabTest::tabRightButtonNeedsItsOption()
 {
     const BaseStyle style;
     const FusionReference reference;
@@ -166,7 +174,7 @@ void TabGeometryTest::tabRightButtonNeedsItsOption()
              reference.fusionRect(element, plain, &tabBar));
 }
 
-void TabGeometryTest::tabText()
+void TabTest::tabText()
 {
     QFETCH(QTabBar::Shape, shape);
     QFETCH(Qt::LayoutDirection, direction);
@@ -204,7 +212,7 @@ void TabGeometryTest::tabText()
     QCOMPARE(rect(), bold);
 }
 
-void TabGeometryTest::tabTextOfAnotherOption()
+void TabTest::tabTextOfAnotherOption()
 {
     const BaseStyle style;
     const FusionReference reference;
@@ -217,5 +225,84 @@ void TabGeometryTest::tabTextOfAnotherOption()
              reference.QCommonStyle::subElementRect(element, &plain, &tabBar));
 }
 
-QTEST_MAIN(TabGeometryTest)
-#include "TabGeometryTest.moc"
+void TabTest::init()
+{
+    for (const char *name : {"appSmallTabSize", "appBaseTabSize", "appLargeTabSize", "smallTabSize",
+                             "baseTabSize", "largeTabSize"}) {
+        qApp->setProperty(name, QVariant());
+    }
+}
+
+void TabTest::tabFont_data()
+{
+    QTest::addColumn<QString>("application");
+    QTest::addColumn<QString>("widget");
+    QTest::addColumn<QString>("expected");
+    const char *const sizes[][3] = {
+        {"", "", "medium"},
+        {"appSmallTabSize", "", "small"},
+        {"appBaseTabSize", "", "base"},
+        {"appLargeTabSize", "", "large"},
+        {"appSmallTabSize appBaseTabSize", "", "small"},
+        {"appSmallTabSize appBaseTabSize appLargeTabSize", "", "small"},
+        {"appBaseTabSize appLargeTabSize", "", "base"},
+        {"", "smallTabSize", "small"},
+        {"", "baseTabSize", "base"},
+        {"", "largeTabSize", "large"},
+        {"", "smallTabSize baseTabSize", "small"},
+        {"", "smallTabSize largeTabSize", "large"},
+        {"", "baseTabSize largeTabSize", "large"},
+        {"", "smallTabSize baseTabSize largeTabSize", "large"},
+        {"appLargeTabSize", "smallTabSize", "small"},
+        {"appLargeTabSize", "baseTabSize", "base"},
+        {"appSmallTabSize", "largeTabSize", "large"},
+        {"smallTabSize largeTabSize", "appSmallTabSize appLargeTabSize", "medium"},
+    };
+    for (const auto &row : sizes) {
+        QTest::addRow("application: %s, widget: %s", row[0], row[1])
+            << text(row[0]) << text(row[1]) << text(row[2]);
+    }
+}
+
+void TabTest::tabFont()
+{
+    QFETCH(QString, application);
+    QFETCH(QString, widget);
+    QFETCH(QString, expected);
+    setProperties(*qApp, application);
+    QTabWidget tabWidget;
+    QTabBar tabBar;
+    NamedWidget likeTabBar("QTabWidget");
+    for (QWidget *tabs : {static_cast<QWidget *>(&tabWidget), static_cast<QWidget *>(&tabBar),
+                          static_cast<QWidget *>(&likeTabBar)}) {
+        setProperties(*tabs, widget);
+        m_style.polish(tabs);
+        QCOMPARE(UniqueTheme::sizeOf(tabs->font()), expected);
+        const QVariant font = tabs->property("_q_styleSheetWidgetFont");
+        QCOMPARE(font.userType(), int(QMetaType::QFont));
+        QCOMPARE(UniqueTheme::sizeOf(font.value<QFont>()), expected);
+    }
+}
+
+void TabTest::tabSizesSetToFalse()
+{
+    qApp->setProperty("appSmallTabSize", false);
+    qApp->setProperty("appLargeTabSize", true);
+    QTabBar tabBar;
+    tabBar.setProperty("smallTabSize", false);
+    m_style.polish(&tabBar);
+    QCOMPARE(UniqueTheme::sizeOf(tabBar.font()), text("large"));
+}
+
+void TabTest::propertiesCountWhenPolishedAgain()
+{
+    QTabBar tabBar;
+    m_style.polish(&tabBar);
+    tabBar.setProperty("smallTabSize", true);
+    QCOMPARE(UniqueTheme::sizeOf(tabBar.font()), text("medium"));
+    m_style.polish(&tabBar);
+    QCOMPARE(UniqueTheme::sizeOf(tabBar.font()), text("small"));
+}
+
+QTEST_MAIN(TabTest)
+#include "TabTest.moc"
