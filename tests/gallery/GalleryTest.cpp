@@ -10,8 +10,6 @@ using namespace TARN::Gallery;
 
 namespace {
 
-constexpr int TimeLimit = 120000; // milliseconds
-
 struct Result
 {
     int exitCode = -1;
@@ -38,7 +36,7 @@ Result runGallery(const QStringList &arguments, const QString &folder = QString(
     process.setWorkingDirectory(folder);
     process.start(QStringLiteral(MOX_GALLERY), arguments);
     Result result;
-    if (process.waitForFinished(TimeLimit) && process.exitStatus() == QProcess::NormalExit) {
+    if (process.waitForFinished(-1) && process.exitStatus() == QProcess::NormalExit) {
         result.exitCode = process.exitCode();
     }
     result.output = QString::fromUtf8(process.readAllStandardOutput());

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QtCore/QEvent>
+#include <QtTest/QtTest>
 #include <QtWidgets/QWidget>
 
 /// Counts the paint events of a widget.
@@ -17,3 +18,12 @@ public:
 
     int count = 0;
 };
+
+/// Waits until everything is painted that \a window was asked to paint before, but for what only
+/// the painting asked for. Tells whether it was. The corner of the window has to be free.
+inline bool isPainted(QWidget &window)
+{
+    const PaintCounter paintings(window);
+    window.update(0, 0, 1, 1);
+    return QTest::qWaitFor([&] { return paintings.count > 0; });
+}

@@ -2,15 +2,34 @@
 
 #include <support/Text.h>
 
+void setUnusualState(QPainter *painter)
+{
+    painter->setPen(QPen(Qt::darkGreen, 3, Qt::DashLine, Qt::RoundCap, Qt::MiterJoin));
+    painter->setBrush(QBrush(Qt::cyan, Qt::Dense4Pattern));
+    painter->setBrushOrigin(3, 5);
+    painter->setBackground(Qt::magenta);
+    painter->setBackgroundMode(Qt::OpaqueMode);
+    painter->setFont(QFont(QStringLiteral("DejaVu Sans"), 17, QFont::Bold));
+    painter->setWindow(0, 0, 120, 120);
+    painter->translate(2, 1);
+    painter->setClipRect(QRect(1, 1, 90, 90));
+    painter->setRenderHint(QPainter::TextAntialiasing, false);
+    painter->setCompositionMode(QPainter::CompositionMode_SourceAtop);
+    painter->setOpacity(0.75);
+    painter->setLayoutDirection(Qt::RightToLeft);
+}
+
 PainterState::PainterState(const QPainter &painter)
     : m_pen(painter.pen())
     , m_brush(painter.brush())
     , m_brushOrigin(painter.brushOrigin())
     , m_font(painter.font())
     , m_hints(painter.renderHints())
-    , m_transform(painter.transform())
+    , m_transform(painter.deviceTransform())
+    , m_window(painter.window())
+    , m_viewport(painter.viewport())
     , m_hasClipping(painter.hasClipping())
-    , m_clip(painter.clipRegion())
+    , m_clip(painter.clipPath())
     , m_opacity(painter.opacity())
     , m_compositionMode(painter.compositionMode())
     , m_backgroundMode(painter.backgroundMode())
@@ -34,6 +53,8 @@ QStringList PainterState::differences(const QPainter &painter) const
     compare(m_font == other.m_font, "font");
     compare(m_hints == other.m_hints, "render hints");
     compare(m_transform == other.m_transform, "transform");
+    compare(m_window == other.m_window, "window");
+    compare(m_viewport == other.m_viewport, "viewport");
     compare(m_hasClipping == other.m_hasClipping && m_clip == other.m_clip, "clip");
     compare(m_opacity == other.m_opacity, "opacity");
     compare(m_compositionMode == other.m_compositionMode, "composition mode");

@@ -4,11 +4,15 @@
 #include <QtGui/QBrush>
 #include <QtGui/QFont>
 #include <QtGui/QPainter>
+#include <QtGui/QPainterPath>
 #include <QtGui/QPen>
-#include <QtGui/QRegion>
 #include <QtGui/QTransform>
 
-/// What a painter is set to.
+/// Gives \a painter a state in which nothing has its default value; what is painted stays
+/// visible.
+void setUnusualState(QPainter *painter);
+
+/// What a painter is set to: what QPainter::save() keeps.
 class PainterState
 {
 public:
@@ -24,8 +28,10 @@ private:
     QFont m_font;
     QPainter::RenderHints m_hints;
     QTransform m_transform;
+    QRect m_window;
+    QRect m_viewport;
     bool m_hasClipping;
-    QRegion m_clip;
+    QPainterPath m_clip;
     qreal m_opacity;
     QPainter::CompositionMode m_compositionMode;
     Qt::BGMode m_backgroundMode;

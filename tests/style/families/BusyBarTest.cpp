@@ -59,6 +59,15 @@ void showBusy(QProgressBar &bar, QStyle &style)
     QVERIFY(QTest::qWaitForWindowExposed(&bar));
 }
 
+/// Waits until a bar that does move was painted several times. Tells whether it was.
+bool anotherBarMoves()
+{
+    AnimatedStyle style;
+    CountingBar bar;
+    showBusy(bar, style);
+    return QTest::qWaitFor([&bar] { return bar.paintCount >= 5; });
+}
+
 } // namespace
 
 /// Busy progress bars and what moves them.
@@ -149,12 +158,12 @@ void BusyBarTest::busyBarIsPaintedCalmly()
     CountingBar bar;
     showBusy(bar, style);
     QTRY_VERIFY(bar.paintCount > 0);
+    bar.paintCount = 0;
     QElapsedTimer timer;
     timer.start();
-    bar.paintCount = 0;
-    QTRY_VERIFY(bar.paintCount >= 3);
-    QTest::qWait(300);
-    QVERIFY(bar.paintCount <= 2 + timer.elapsed() / 30);
+    QTRY_VERIFY(bar.paintCount >= 8);
+    // There is no limit to how long they may take, but to how short.
+    QVERIFY(timer.elapsed() >= 30 * (bar.paintCount - 2));
 }
 
 void BusyBarTest::hiddenBarComesToRest()
@@ -186,7 +195,7 @@ void BusyBarTest::finishedBarComesToRest()
     bar.setValue(100);
     QTRY_COMPARE(animation->state(), QAbstractAnimation::Stopped);
     bar.paintCount = 0;
-    QTest::qWait(200);
+    QVERIFY(anotherBarMoves());
     QCOMPARE(bar.paintCount, 0);
 }
 
@@ -212,7 +221,7 @@ void BusyBarTest::nothingMoves()
     QVERIFY(theme.shows(picture, text("MainBrush")));
     QVERIFY(!bar.findChild<QAbstractAnimation *>());
     bar.paintCount = 0;
-    QTest::qWait(200);
+    QVERIFY(anotherBarMoves());
     QCOMPARE(bar.paintCount, 0);
 }
 

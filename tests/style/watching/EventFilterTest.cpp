@@ -77,6 +77,9 @@ struct AltWindow
         return QTest::qWaitForWindowExposed(&window) && QTest::qWaitForWindowExposed(dialog);
     }
 
+    /// Waits until nothing is left to be painted.
+    bool isAtRest() { return isPainted(window) && isPainted(*dialog); }
+
     NeverUnderlining neverUnderlining;
     QProxyStyle alwaysUnderlining{text("fusion")};
     QWidget window;
@@ -165,7 +168,7 @@ private Q_SLOTS:
     {
         AltWindow all;
         QVERIFY(all.show());
-        QTest::qWait(100);
+        QVERIFY(all.isAtRest());
         PaintCounter menuBar(*all.menuBar);
         PaintCounter label(*all.label);
         PaintCounter stubborn(*all.stubborn);
@@ -173,7 +176,8 @@ private Q_SLOTS:
         send(*all.label, QEvent::KeyPress);
         QTRY_VERIFY(label.count > 0);
         QVERIFY(menuBar.count > 0);
-        QTest::qWait(50);
+        // Twice, so that the dialog would have been painted in between.
+        QVERIFY(isPainted(all.window) && isPainted(all.window));
         QCOMPARE(stubborn.count, 0);
         QCOMPARE(dialog.count, 0);
         send(*all.label, QEvent::KeyRelease);
@@ -184,12 +188,12 @@ private Q_SLOTS:
         AltWindow all;
         QVERIFY(all.show());
         send(*all.label, QEvent::KeyPress);
-        QTest::qWait(100);
+        QVERIFY(all.isAtRest());
         PaintCounter menuBar(*all.menuBar);
         PaintCounter label(*all.label);
         send(*all.label, QEvent::KeyRelease);
         QTRY_VERIFY(menuBar.count > 0);
-        QTest::qWait(50);
+        QVERIFY(all.isAtRest());
         QCOMPARE(label.count, 0);
     }
 
@@ -198,7 +202,7 @@ private Q_SLOTS:
         AltWindow all;
         QVERIFY(all.show());
         send(all.window, QEvent::KeyPress);
-        QTest::qWait(100);
+        QVERIFY(all.isAtRest());
         PaintCounter menuBar(*all.menuBar);
         QEvent deactivate(QEvent::WindowDeactivate);
         m_style->eventFilter(&all.window, &deactivate);
