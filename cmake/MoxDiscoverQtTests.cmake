@@ -1,5 +1,5 @@
 # Run after a test executable was built: writes a CTest file with one test per
-# test function of EXECUTABLE into LISTING.
+# test function of EXECUTABLE, each with PROPERTIES, into LISTING.
 
 execute_process(
   COMMAND "${CMAKE_COMMAND}" -E env QT_QPA_PLATFORM=offscreen ASAN_OPTIONS=detect_leaks=0
@@ -16,7 +16,6 @@ set(content "")
 foreach(function IN LISTS functions)
   string(REPLACE "()" "" function "${function}")
   string(APPEND content "add_test([==[${NAME}.${function}]==] [==[${EXECUTABLE}]==] ${function})\n"
-         "set_tests_properties([==[${NAME}.${function}]==] PROPERTIES ENVIRONMENT "
-         "[==[${ENVIRONMENT}]==])\n")
+         "set_tests_properties([==[${NAME}.${function}]==] PROPERTIES ${PROPERTIES})\n")
 endforeach()
 file(WRITE "${LISTING}" "${content}")

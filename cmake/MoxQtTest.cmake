@@ -15,9 +15,38 @@ target_precompile_headers(mox_test_headers PRIVATE <QtTest/QtTest> <QtWidgets/QA
 
 set(MOX_DISCOVER_TESTS_SCRIPT "${CMAKE_CURRENT_LIST_DIR}/MoxDiscoverQtTests.cmake")
 
-# mox_add_test(<name> <source>... [LIBRARIES <target>...] [ENVIRONMENT <NAME=value>...])
+# How the warnings begin that no test has to expect, each with its reason; no two with the same
+# letter.
+set(MOX_KNOWN_WARNINGS
+    # The offscreen platform has no window manager that could raise windows, limit their sizes or
+    # give them the keyboard.
+    "This plugin does not support")
+
+# Sets <variable> to the expression of what the test library prints of any other warning or error.
+# One that a test expects (QTest::ignoreMessage) it does not print.
+function(mox_unexpected_warning variable)
+  set(first "")
+  set(others "")
+  foreach(known IN LISTS MOX_KNOWN_WARNINGS)
+    set(begin "")
+    string(REGEX MATCHALL "." letters "${known}")
+    foreach(letter IN LISTS letters)
+      if(begin STREQUAL "")
+        string(APPEND first "${letter}")
+      else()
+        string(APPEND others "|${begin}[^${letter}]")
+      endif()
+      string(APPEND begin "${letter}")
+    endforeach()
+  endforeach()
+  set(${variable}
+      "(QWARN  |QCRITICAL|QSYSTEM): [A-Za-z0-9_]+::[A-Za-z0-9_]+[(][^)]*[)] ([^${first}]${others})"
+      PARENT_SCOPE)
+endfunction()
+
+# mox_add_test(<name> <source>... [WILL_FAIL] [LIBRARIES <target>...] [ENVIRONMENT <NAME=value>...])
 function(mox_add_test name)
-  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "LIBRARIES;ENVIRONMENT")
+  cmake_parse_arguments(PARSE_ARGV 1 arg "WILL_FAIL" "" "LIBRARIES;ENVIRONMENT")
   add_executable(${name} ${arg_UNPARSED_ARGUMENTS})
   set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/tests")
   target_compile_options(${name} PRIVATE ${MOX_TEST_OPTIONS})
@@ -36,6 +65,10 @@ function(mox_add_test name)
          UBSAN_OPTIONS=print_stacktrace=1)
   endif()
 
+  mox_unexpected_warning(unexpected_warning)
+  string(CONCAT properties "ENVIRONMENT [==[${environment}]==] "
+                "FAIL_REGULAR_EXPRESSION [==[${unexpected_warning}]==] "
+                "WILL_FAIL [==[${arg_WILL_FAIL}]==]")
   set(listing "${CMAKE_CURRENT_BINARY_DIR}/${name}_tests.cmake")
   add_custom_command(
     TARGET ${name}
@@ -44,7 +77,7 @@ function(mox_add_test name)
     COMMAND
       "${CMAKE_COMMAND}" "-DNAME=${name}" "-DEXECUTABLE=$<TARGET_FILE:${name}>"
       "-DLISTING=${listing}"
-      "-DENVIRONMENT=${environment}" -P "${MOX_DISCOVER_TESTS_SCRIPT}"
+      "-DPROPERTIES=${properties}" -P "${MOX_DISCOVER_TESTS_SCRIPT}"
     VERBATIM)
   set_property(DIRECTORY APPEND PROPERTY TEST_INCLUDE_FILES "${listing}")
 endfunction()

@@ -1,5 +1,6 @@
 #include "common_utils/TestIcons.h"
 
+#include <QtCore/QRegularExpression>
 #include <QtGui/QPainter>
 #include <QtTest/QtTest>
 #include <QtWidgets/QApplication>
@@ -162,6 +163,9 @@ void TintedIconSizesTest::emptySizesGiveNothing()
 
 void TintedIconSizesTest::unreadableSourceGivesNothing()
 {
+    const QRegularExpression warning(QStringLiteral("Cannot read file"));
+    QTest::ignoreMessage(QtWarningMsg, warning);
+    QTest::ignoreMessage(QtWarningMsg, warning);
     const QIcon source(writeSvg("no picture"));
     const QIcon icon = tinted(source, tint);
     QCOMPARE(icon.isNull(), source.isNull());
