@@ -1,6 +1,7 @@
 #include "catalogue/ButtonBrushTour.h"
 
 #include <catalogue/Catalogue.h>
+#include <catalogue/Words.h>
 #include <style/BaseStyle.h>
 
 #include <QtWidgets/QComboBox>
@@ -71,7 +72,7 @@ void askInAllForms(QWidget &widget)
 
 void setKind(QWidget &widget, const QString &kind)
 {
-    const bool isHighlighted = kind == QLatin1String("Highlighted");
+    const bool isHighlighted = kind == TARN::Words::highlighted;
     widget.setProperty("highlighted", isHighlighted);
     widget.setProperty("ButtonType", isHighlighted ? QString() : kind);
 }

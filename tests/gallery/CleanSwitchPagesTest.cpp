@@ -1,4 +1,3 @@
-#include <catalogue/Catalogue.h>
 #include <theme/BaseTheme.h>
 
 #include <QtCore/QHash>
@@ -11,6 +10,7 @@
 #include <pages/PageTable.h>
 #include <support/Text.h>
 #include <support/ThemeRepository.h>
+#include <support/themes/CatalogueNames.h>
 #include <vector>
 
 using namespace TARN::Gallery;
@@ -45,12 +45,9 @@ ColorfulTheme::ColorfulTheme(const ThemeRepository &repository, const QString &n
     : m_green(green)
 {
     ThemeConfiguration configuration;
-    for (const TARN::Variable &variable : TARN::Catalogue::variables()) {
-        addVariable(configuration, variable.group, variable.name);
-        if (variable.hasDisabledTwin) {
-            addVariable(configuration, variable.group, variable.name + text("Disabled"));
-        }
-    }
+    visitBrushesAndColors([&](const QString &group, const QString &variable) {
+        addVariable(configuration, group, variable);
+    });
     m_directory = repository.addTheme(name, configuration, paletteRoles());
 }
 

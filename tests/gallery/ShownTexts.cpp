@@ -1,124 +1,31 @@
 #include "ShownTexts.h"
 
+#include "ButtonTexts.h"
+#include "TextRecorder.h"
+
 #include <QtCore/QtMath>
 #include <QtGui/QTextBlock>
 #include <QtGui/QTextDocument>
 #include <QtGui/QTextLayout>
+#include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QAbstractSpinBox>
-#include <QtWidgets/QCheckBox>
 #include <QtWidgets/QComboBox>
-#include <QtWidgets/QCommandLinkButton>
 #include <QtWidgets/QGroupBox>
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMainWindow>
 #include <QtWidgets/QMenuBar>
-#include <QtWidgets/QPushButton>
-#include <QtWidgets/QRadioButton>
-#include <QtWidgets/QStyleOption>
 #include <QtWidgets/QTabBar>
 #include <QtWidgets/QTabWidget>
-#include <QtWidgets/QToolButton>
 
 #include <support/Text.h>
 
 namespace {
 
-// What the toolkit leaves between an icon and its text, and around the text of a line edit.
-constexpr int IconSpacing = 4;
+// What the toolkit leaves around the text of a line edit.
 constexpr int LineEditMargins = 2 * 2;
 constexpr int CursorWidth = 1;
-
-// The margins of a command link, which it asks no style for.
-constexpr int CommandLinkLeft = 7;
-constexpr int CommandLinkRight = 4;
-constexpr int CommandLinkIconSpacing = 6;
-constexpr int CommandLinkVertical = 10;
-constexpr qreal CommandLinkPoints = 9;
-
-/// Lets anybody ask a widget for its style option.
-template <typename Widget>
-struct Asked : Widget
-{
-    using Widget::initStyleOption;
-};
-
-template <typename Option, typename Widget, typename... Item>
-Option optionOf(const Widget &widget, const Item &...item)
-{
-    Option option;
-    (widget.*(&Asked<Widget>::initStyleOption))(&option, item...);
-    return option;
-}
-
-QSize sizeOf(const QString &text, const QFontMetrics &metrics)
-{
-    return metrics.size(Qt::TextShowMnemonic, text);
-}
-
-QSize wrappedSizeOf(const QString &text, const QFontMetrics &metrics, int width)
-{
-    const QRect room(0, 0, width, QWIDGETSIZE_MAX);
-    return metrics.boundingRect(room, Qt::TextWordWrap | Qt::TextShowMnemonic, text).size();
-}
-
-QFont boldened(QFont font)
-{
-    font.setBold(true);
-    return font;
-}
-
-/// Returns what of a style's rectangle lies inside the widget.
-QSize roomFor(QStyle::SubElement element, const QStyleOption &option, const QWidget &widget)
-{
-    return (widget.style()->subElementRect(element, &option, &widget) & widget.rect()).size();
-}
-
-QSize roomFor(QStyle::ComplexControl control, QStyle::SubControl part,
-              const QStyleOptionComplex &option, const QWidget &widget)
-{
-    const QRect rect = widget.style()->subControlRect(control, &option, part, &widget);
-    return (rect & widget.rect()).size();
-}
-
-int metricOf(QStyle::PixelMetric metric, const QStyleOption &option, const QWidget &widget)
-{
-    return widget.style()->pixelMetric(metric, &option, &widget);
-}
-
-int iconWidth(const QIcon &icon, const QSize &size)
-{
-    return icon.isNull() ? 0 : icon.actualSize(size).width() + IconSpacing;
-}
-
-/// Takes the texts of one widget down.
-class Recorder
-{
-public:
-    Recorder(const QWidget &widget, QVector<ShownText> &texts)
-        : m_widget(widget)
-        , m_texts(texts)
-    {
-    }
-
-    void add(const char *kind, const QString &text, const QSize &needed, const QSize &room)
-    {
-        if (!text.isEmpty()) {
-            m_texts.append({&m_widget, kind, text, needed, room});
-        }
-    }
-
-    /// Takes down a text in one line and in the widget's font.
-    void addLine(const char *kind, const QString &text, const QSize &room)
-    {
-        add(kind, text, sizeOf(text, m_widget.fontMetrics()), room);
-    }
-
-private:
-    const QWidget &m_widget;
-    QVector<ShownText> &m_texts;
-};
 
 bool isRich(const QLabel &label)
 {
@@ -169,7 +76,7 @@ QSize documentSize(const QLabel &label, int width)
     return {qCeil(widest), qCeil(height)};
 }
 
-void recordLabel(const QLabel &label, Recorder &recorder)
+void recordLabel(const QLabel &label, TextRecorder &recorder)
 {
     const QSize room = labelRoom(label);
     if (showsDocument(label)) {
@@ -180,84 +87,6 @@ void recordLabel(const QLabel &label, Recorder &recorder)
     } else {
         recorder.addLine("label", label.text(), room);
     }
-}
-
-void recordCommandLink(const QCommandLinkButton &button, Recorder &recorder)
-{
-    QFont font = button.font();
-    font.setPointSizeF(CommandLinkPoints);
-    const QFontMetrics description(font, &button);
-    const QFontMetrics title(boldened(font), &button);
-    const int icon = button.icon().actualSize(button.iconSize()).width() + CommandLinkIconSpacing;
-    QSize room = button.size() - QSize(CommandLinkLeft + icon + CommandLinkRight,
-                                       CommandLinkVertical + CommandLinkVertical);
-    recorder.add("command link", button.text(), sizeOf(button.text(), title), room);
-    room.rheight() -= title.height();
-    recorder.add("command link", button.description(),
-                 wrappedSizeOf(button.description(), description, room.width()), room);
-}
-
-void recordPushButton(const QPushButton &button, Recorder &recorder)
-{
-    const auto option = optionOf<QStyleOptionButton>(button);
-    QSize room = roomFor(QStyle::SE_PushButtonContents, option, button);
-    room.rwidth() -= iconWidth(option.icon, option.iconSize);
-    if (button.menu()) {
-        room.rwidth() -= metricOf(QStyle::PM_MenuButtonIndicator, option, button);
-    }
-    recorder.addLine("push button", button.text(), room);
-}
-
-/// Returns the room for the label of a tool button: without its frame, and without the arrow of
-/// its menu.
-QSize toolButtonRoom(const QToolButton &button, const QStyleOptionToolButton &option)
-{
-    const int frame = metricOf(QStyle::PM_DefaultFrameWidth, option, button);
-    QSize room = roomFor(QStyle::CC_ToolButton, QStyle::SC_ToolButton, option, button) -
-                 QSize(2 * frame, 2 * frame);
-    const bool hasPlainMenu = option.features.testFlag(QStyleOptionToolButton::HasMenu) &&
-                              !option.features.testFlag(QStyleOptionToolButton::Menu);
-    if (hasPlainMenu && !button.property("no menu arrow").toBool()) {
-        room.rwidth() -= metricOf(QStyle::PM_MenuButtonIndicator, option, button);
-    }
-    return room;
-}
-
-void recordToolButton(const QToolButton &button, Recorder &recorder)
-{
-    const auto option = optionOf<QStyleOptionToolButton>(button);
-    QSize room = toolButtonRoom(button, option);
-    const bool hasIcon = !option.icon.isNull();
-    if (hasIcon && option.toolButtonStyle == Qt::ToolButtonIconOnly) {
-        return;
-    }
-    if (hasIcon && option.toolButtonStyle == Qt::ToolButtonTextUnderIcon) {
-        room.rheight() -= option.iconSize.height() + IconSpacing - 2;
-    } else if (hasIcon && option.toolButtonStyle == Qt::ToolButtonTextBesideIcon) {
-        room.rwidth() -= option.iconSize.width() + IconSpacing;
-    }
-    recorder.addLine("tool button", option.text, room);
-}
-
-void recordCheckable(const QAbstractButton &button, const QStyleOptionButton &option,
-                     QStyle::SubElement contents, Recorder &recorder)
-{
-    QSize room = roomFor(contents, option, button);
-    room.rwidth() -= iconWidth(option.icon, option.iconSize);
-    recorder.addLine(contents == QStyle::SE_CheckBoxContents ? "check box" : "radio button",
-                     button.text(), room);
-}
-
-void recordToolBoxButton(const QAbstractButton &button, Recorder &recorder)
-{
-    QStyleOptionToolBox option;
-    option.initFrom(&button);
-    option.text = button.text();
-    option.icon = button.icon();
-    QSize room = roomFor(QStyle::SE_ToolBoxTabContents, option, button);
-    const int iconExtent = metricOf(QStyle::PM_SmallIconSize, option, button);
-    room.rwidth() -= iconWidth(button.icon(), QSize(iconExtent, iconExtent));
-    recorder.addLine("tool box tab", button.text(), room);
 }
 
 /// Tells whether a tab bar is meant to elide. The tabs of docks are as wide as the docks.
@@ -280,7 +109,7 @@ bool hasFixedHeight(const QTabBar &tabBar)
     return qobject_cast<const QTabWidget *>(tabBar.parentWidget());
 }
 
-void recordTabs(const QTabBar &tabBar, Recorder &recorder)
+void recordTabs(const QTabBar &tabBar, TextRecorder &recorder)
 {
     for (int i = 0; i < tabBar.count() && !elidesOnPurpose(tabBar); ++i) {
         const auto option = optionOf<QStyleOptionTab>(tabBar, i);
@@ -298,7 +127,7 @@ void recordTabs(const QTabBar &tabBar, Recorder &recorder)
     }
 }
 
-void recordMenu(const QMenu &menu, Recorder &recorder)
+void recordMenu(const QMenu &menu, TextRecorder &recorder)
 {
     for (const QAction *action : menu.actions()) {
         const QRect rect = menu.actionGeometry(const_cast<QAction *>(action));
@@ -313,14 +142,14 @@ void recordMenu(const QMenu &menu, Recorder &recorder)
     }
 }
 
-void recordMenuBar(const QMenuBar &menuBar, Recorder &recorder)
+void recordMenuBar(const QMenuBar &menuBar, TextRecorder &recorder)
 {
     for (QAction *action : menuBar.actions()) {
         recorder.addLine("menu bar item", action->text(), menuBar.actionGeometry(action).size());
     }
 }
 
-void recordGroupBox(const QGroupBox &box, Recorder &recorder)
+void recordGroupBox(const QGroupBox &box, TextRecorder &recorder)
 {
     const auto option = optionOf<QStyleOptionGroupBox>(box);
     recorder.addLine("group box", box.title(),
@@ -346,7 +175,7 @@ QStyleOptionHeader headerOption(const QHeaderView &header, int section)
     return option;
 }
 
-void recordHeader(const QHeaderView &header, Recorder &recorder)
+void recordHeader(const QHeaderView &header, TextRecorder &recorder)
 {
     for (int section = 0; section < header.count(); ++section) {
         const QStyleOptionHeader option = headerOption(header, section);
@@ -363,7 +192,7 @@ void recordHeader(const QHeaderView &header, Recorder &recorder)
     }
 }
 
-void recordEditField(const char *kind, const QLineEdit &edit, Recorder &recorder)
+void recordEditField(const char *kind, const QLineEdit &edit, TextRecorder &recorder)
 {
     const auto option = optionOf<QStyleOptionFrame>(edit);
     QSize room = roomFor(QStyle::SE_LineEditContents, option, edit);
@@ -374,7 +203,7 @@ void recordEditField(const char *kind, const QLineEdit &edit, Recorder &recorder
                  {metrics.horizontalAdvance(edit.text()) + CursorWidth, metrics.height()}, room);
 }
 
-void recordComboBox(const QComboBox &box, Recorder &recorder)
+void recordComboBox(const QComboBox &box, TextRecorder &recorder)
 {
     // A file dialog elides the path of its folder.
     if (box.objectName() == text("lookInCombo")) {
@@ -391,42 +220,14 @@ void recordComboBox(const QComboBox &box, Recorder &recorder)
     recorder.addLine("combo box", box.currentText(), room);
 }
 
-void recordSpinBox(const QAbstractSpinBox &box, Recorder &recorder)
+void recordSpinBox(const QAbstractSpinBox &box, TextRecorder &recorder)
 {
     recordEditField("spin box", *box.findChild<QLineEdit *>(), recorder);
 }
 
-/// Calls \a record if \a widget is a \a Widget. Returns whether it is.
-template <typename Widget>
-bool recordAs(const QWidget &widget, Recorder &recorder, void (*record)(const Widget &, Recorder &))
-{
-    const auto *specific = qobject_cast<const Widget *>(&widget);
-    if (specific) {
-        record(*specific, recorder);
-    }
-    return specific;
-}
-
-void recordButton(const QAbstractButton &button, Recorder &recorder)
-{
-    if (const auto *box = qobject_cast<const QCheckBox *>(&button)) {
-        recordCheckable(*box, optionOf<QStyleOptionButton>(*box), QStyle::SE_CheckBoxContents,
-                        recorder);
-    } else if (const auto *radio = qobject_cast<const QRadioButton *>(&button)) {
-        recordCheckable(*radio, optionOf<QStyleOptionButton>(*radio),
-                        QStyle::SE_RadioButtonContents, recorder);
-    } else if (button.inherits("QToolBoxButton")) {
-        recordToolBoxButton(button, recorder);
-    } else {
-        recordAs(button, recorder, recordCommandLink) ||
-            recordAs(button, recorder, recordPushButton) ||
-            recordAs(button, recorder, recordToolButton);
-    }
-}
-
 void record(const QWidget &widget, QVector<ShownText> &texts)
 {
-    Recorder recorder(widget, texts);
+    TextRecorder recorder(widget, texts);
     recordAs(widget, recorder, recordLabel) || recordAs(widget, recorder, recordButton) ||
         recordAs(widget, recorder, recordTabs) || recordAs(widget, recorder, recordMenu) ||
         recordAs(widget, recorder, recordMenuBar) || recordAs(widget, recorder, recordGroupBox) ||

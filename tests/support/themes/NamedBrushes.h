@@ -16,7 +16,6 @@ public:
     QString nameOf(const QBrush &brush) const;
 
 private:
-    void addButton(const QString &kindAndState);
     void add(const QString &name);
 
     QMap<QRgb, QString> m_names;

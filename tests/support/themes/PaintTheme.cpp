@@ -1,7 +1,5 @@
 #include "support/themes/PaintTheme.h"
 
-#include <catalogue/Catalogue.h>
-
 #include <QtCore/QSet>
 #include <QtCore/QStringList>
 #include <QtCore/QVariantMap>
@@ -10,6 +8,7 @@
 
 #include <support/Text.h>
 #include <support/Variables.h>
+#include <support/themes/CatalogueNames.h>
 
 PaintTheme::PaintTheme()
     : PaintTheme(Radii())
@@ -34,15 +33,7 @@ PaintTheme::PaintTheme(const Radii &radii)
             colors.insert(name, color);
         }
     };
-    for (const TARN::Variable &variable : TARN::Catalogue::variables()) {
-        if (variable.group != text("brushes") && variable.group != text("colors")) {
-            continue;
-        }
-        add(variable.group, variable.name);
-        if (variable.hasDisabledTwin) {
-            add(variable.group, variable.name + text("Disabled"));
-        }
-    }
+    visitBrushesAndColors(add);
     const QFont font(text("DejaVu Sans"), 9);
     publishVariables({{text("brushes"), brushes},
                       {text("colors"), colors},

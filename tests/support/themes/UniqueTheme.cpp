@@ -1,37 +1,10 @@
 #include "support/themes/UniqueTheme.h"
 
-#include <QtCore/QStringList>
-
 #include <support/Text.h>
 #include <support/Variables.h>
+#include <support/themes/CatalogueNames.h>
 
 namespace {
-
-constexpr const char *brushNames[] = {
-    "BackgroundSubLevel1Brush",
-    "BackgroundUpLevel1Brush",
-    "ButtonUncheckedHoverForegroundBrush",
-    "ForegroundBrush",
-    "ForegroundDisabledBrush",
-    "ForegroundMouseOverBrush",
-    "InputBackgroundBrush",
-    "InputBorderBrush",
-    "InputForegroundBrush",
-    "ItemViewBackgroundBrush",
-    "ListBackgroundBrush",
-    "ListBorderBrush",
-    "MainBrush",
-    "PrioritySecondaryUpLevel1Brush",
-    "SliderThumbNailHoverBrush",
-    "SliderThumbNailPressedBrush",
-};
-
-constexpr const char *colorNames[] = {
-    "ForegroundColor", "ForegroundSubLevel1Color", "ForegroundUpLevel1Color",
-    "MainColor",       "StatusConfigColor",
-};
-
-constexpr int seriesCount = 12;
 
 struct FontSize
 {
@@ -45,24 +18,7 @@ constexpr FontSize fontSizes[] = {{"small", 7}, {"base", 9}, {"medium", 12}, {"l
 
 UniqueTheme::UniqueTheme()
 {
-    const auto nextColor = [this] { return QColor(0x40, 0x20, m_names.size() + 1); };
-    for (const char *name : brushNames) {
-        for (const QString &variant : {text(name), text(name) + text("Disabled")}) {
-            m_brushes.insert(variant, QBrush(nextColor()));
-            m_names.insert(nextColor().rgb(), variant);
-        }
-    }
-    QStringList colors;
-    for (const char *name : colorNames) {
-        colors << text(name) << text(name) + text("Disabled");
-    }
-    for (int number = 1; number <= seriesCount; ++number) {
-        colors << QStringLiteral("Series%1Color").arg(number, 2, 10, QLatin1Char('0'));
-    }
-    for (const QString &name : colors) {
-        m_colors.insert(name, nextColor());
-        m_names.insert(nextColor().rgb(), name);
-    }
+    visitBrushesAndColors([this](const QString &group, const QString &name) { add(group, name); });
     QVariantMap fonts;
     for (const FontSize &size : fontSizes) {
         fonts.insert(text(size.name), QFont(text("DejaVu Sans"), size.points));
@@ -72,6 +28,18 @@ UniqueTheme::UniqueTheme()
                       {text("fonts"), fonts},
                       {text("cornerRadius"), QVariantMap{{text("BaseSize"), baseRadius},
                                                          {text("MediumSize"), mediumRadius}}}});
+}
+
+void UniqueTheme::add(const QString &group, const QString &name)
+{
+    const int number = m_names.size() + 1;
+    const QColor color(0x40, number / 0x100, number % 0x100);
+    if (group == text("brushes")) {
+        m_brushes.insert(name, QBrush(color));
+    } else {
+        m_colors.insert(name, color);
+    }
+    m_names.insert(color.rgb(), name);
 }
 
 QString UniqueTheme::nameOf(const QBrush &brush) const

@@ -8,8 +8,7 @@
 #include <QtGui/QFont>
 #include <QtGui/QRgb>
 
-/// A published theme in which every brush, colour and font that polishing, tinting and icons ask
-/// for tells its name.
+/// A published theme in which every brush, colour and font of the catalogue tells its name.
 class UniqueTheme
 {
 public:
@@ -29,6 +28,8 @@ public:
     static constexpr int mediumRadius = 9;
 
 private:
+    void add(const QString &group, const QString &name);
+
     QMap<QRgb, QString> m_names;
     QVariantMap m_brushes;
     QVariantMap m_colors;
