@@ -44,6 +44,11 @@ function(mox_unexpected_warning variable)
       PARENT_SCOPE)
 endfunction()
 
+# Where the toolkit keeps what ends with a session: without, it warns.
+set(MOX_TEST_RUNTIME_DIR "${PROJECT_BINARY_DIR}/runtime")
+file(MAKE_DIRECTORY "${MOX_TEST_RUNTIME_DIR}")
+file(CHMOD "${MOX_TEST_RUNTIME_DIR}" PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE)
+
 # mox_add_test(<name> <source>... [WILL_FAIL] [LIBRARIES <target>...] [ENVIRONMENT <NAME=value>...])
 function(mox_add_test name)
   cmake_parse_arguments(PARSE_ARGV 1 arg "WILL_FAIL" "" "LIBRARIES;ENVIRONMENT")
@@ -58,7 +63,8 @@ function(mox_add_test name)
   target_link_libraries(${name} PRIVATE mox_compiler_settings mox::common_theme Qt5::Test
                                         ${arg_LIBRARIES})
 
-  set(environment QT_QPA_PLATFORM=offscreen ${arg_ENVIRONMENT})
+  set(environment QT_QPA_PLATFORM=offscreen "XDG_RUNTIME_DIR=${MOX_TEST_RUNTIME_DIR}"
+                  ${arg_ENVIRONMENT})
   if(MOX_SANITIZE)
     list(APPEND environment
          "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/leaks.supp:print_suppressions=0"

@@ -1,4 +1,5 @@
 #include "Checkout.h"
+#include "support/MessageRecorder.h"
 #include "support/Text.h"
 
 #include <resources/ThemeResources.h>
@@ -289,6 +290,8 @@ void CursorArtworkTest::badSourcesAreTold()
 {
     QFETCH(const QByteArray, svg);
     QFETCH(const QString, message);
+    // The toolkit has warnings of its own to give.
+    const MessageRecorder warnings;
     const QTemporaryDir folder;
     writeSource(folder, svg);
     QStringList errors;

@@ -11,10 +11,8 @@
 #include <support/Text.h>
 #include <support/themes/IconTheme.h>
 #include <support/themes/UniqueTheme.h>
-#include <vector>
 
 using TARN::BaseStyle;
-using TARN::ComboBoxDefaultItemDelegate;
 using TARN::ThemeFactory;
 
 namespace {

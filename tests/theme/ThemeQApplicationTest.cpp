@@ -19,11 +19,8 @@ class CommandLine
 {
 public:
     explicit CommandLine(const QStringList &options)
+        : m_texts{"/proc/self/exe"}
     {
-        m_texts.append(QCoreApplication::applicationFilePath().toLocal8Bit());
-        if (m_texts.first().isEmpty()) {
-            m_texts.first() = "/proc/self/exe";
-        }
         for (const QString &option : options) {
             m_texts.append(option.toLocal8Bit());
         }

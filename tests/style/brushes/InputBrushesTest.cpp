@@ -13,8 +13,6 @@
 
 #include <support/Text.h>
 
-using TARN::BaseStyle;
-
 namespace {
 
 constexpr QStyle::State enabled = QStyle::State_Enabled;

@@ -1,7 +1,5 @@
 #include <style/BaseStyle.h>
 #include <style/ComboBoxDefaultItemDelegate.h>
-#include <theme/Theme.h>
-#include <theme/ThemeFactory.h>
 
 #include <QtTest/QtTest>
 #include <QtWidgets/QAbstractItemView>
@@ -13,11 +11,9 @@
 #include <support/ComboBoxes.h>
 #include <support/Text.h>
 #include <support/geometry/FusionReference.h>
-#include <vector>
 
 using TARN::BaseStyle;
 using TARN::ComboBoxDefaultItemDelegate;
-using TARN::ThemeFactory;
 
 /// The sizes and rectangles of combo boxes, and the delegates that they are given.
 class ComboBoxTest : public QObject

@@ -4,7 +4,6 @@
 #include <QtTest/QtTest>
 #include <QtWidgets/QSlider>
 
-#include <cmath>
 #include <support/Text.h>
 #include <support/geometry/FusionReference.h>
 #include <support/painting/CallRecorder.h>

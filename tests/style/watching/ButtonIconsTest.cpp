@@ -8,7 +8,6 @@
 #include <QtWidgets/QToolButton>
 #include <QtWidgets/QVBoxLayout>
 
-#include <optional>
 #include <support/PaintCounter.h>
 #include <support/Text.h>
 #include <support/themes/IconTheme.h>

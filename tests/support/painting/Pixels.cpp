@@ -48,12 +48,12 @@ QIcon squareIcon(const QColor &color)
 {
     QPixmap pixmap(16, 16);
     pixmap.fill(color);
-    return QIcon(pixmap);
+    return pixmap;
 }
 
 QString blocks(int count)
 {
-    return QString(count, QChar(0x2588));
+    return {count, QChar(0x2588)};
 }
 
 QRect extentOf(const QImage &picture, const QColor &color)

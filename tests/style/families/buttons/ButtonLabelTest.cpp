@@ -5,7 +5,6 @@
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QStyleOption>
 
-#include <cmath>
 #include <support/Text.h>
 #include <support/painting/CallRecorder.h>
 #include <support/painting/Pixels.h>

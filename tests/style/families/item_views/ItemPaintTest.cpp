@@ -7,7 +7,6 @@
 #include <QtTest/QtTest>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QListView>
-#include <QtWidgets/QStyleFactory>
 
 #include <support/Components.h>
 #include <support/Text.h>

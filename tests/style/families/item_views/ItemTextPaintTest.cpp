@@ -6,7 +6,6 @@
 #include <QtGui/QStandardItemModel>
 #include <QtTest/QtTest>
 #include <QtWidgets/QListView>
-#include <QtWidgets/QStyleFactory>
 #include <QtWidgets/QTableView>
 
 #include <support/Text.h>

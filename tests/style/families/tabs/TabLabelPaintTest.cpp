@@ -1,6 +1,5 @@
 #include "style/families/tabs/TabLabelSample.h"
 
-#include <QtGui/QPainter>
 #include <QtTest/QtTest>
 #include <QtWidgets/QTabBar>
 

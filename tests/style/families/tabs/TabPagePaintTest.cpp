@@ -9,7 +9,6 @@
 #include <QtWidgets/QTabWidget>
 #include <QtWidgets/QToolButton>
 
-#include <cmath>
 #include <support/Text.h>
 #include <support/painting/CallRecorder.h>
 #include <support/themes/PaintTheme.h>
