@@ -164,10 +164,8 @@ void drawIconField(const ComboBoxRequest &comboBox, const QRect &rect)
     const bool enabled = isEnabled(comboBox.option);
     QPainter &painter = *comboBox.request.painter;
     const QBrush ground = fieldBrush(enabled);
-    if (ground.isOpaque()) {
-        drawShape(painter, QRectF(rect).adjusted(0.5, 2.5, -0.5, -2.5),
-                  cornerRadius(CornerSize::Small), outlinePen(ground), ground);
-    }
+    drawShape(painter, QRectF(rect).adjusted(0.5, 2.5, -0.5, -2.5), cornerRadius(CornerSize::Small),
+              outlinePen(ground), ground);
     const bool isOfComboBox = qobject_cast<const QComboBox *>(comboBox.request.widget) != nullptr;
     const QRect line(isRightToLeft(comboBox.option) ? rect.left() : rect.right(), rect.top() + 3, 1,
                      rect.height() - 6);
@@ -215,11 +213,11 @@ void drawLabelText(const ComboBoxRequest &comboBox, const QRect &rect)
         QPalette::ButtonText);
 }
 
-/// Draws icon and text, of which the text of a combo box that can be edited is the editor's.
-void drawLabelParts(const ComboBoxRequest &comboBox)
+/// Draws icon and text inside of \a rect, of which the text of a combo box that can be edited is
+/// the editor's.
+void drawLabelParts(const ComboBoxRequest &comboBox, QRect rect)
 {
     const QStyleOptionComboBox &option = comboBox.option;
-    QRect rect = labelRect(comboBox);
     if (!option.currentIcon.isNull()) {
         const QRect icon = iconRect(option, rect);
         drawLabelIcon(comboBox, icon);
@@ -228,6 +226,17 @@ void drawLabelParts(const ComboBoxRequest &comboBox)
     if (!option.editable && !option.currentText.isEmpty()) {
         drawLabelText(comboBox, rect.adjusted(1, 0, -1, 0));
     }
+}
+
+/// Draws the label, whose icon may be larger than the room for it.
+void drawClippedLabel(const ComboBoxRequest &comboBox)
+{
+    QPainter &painter = *comboBox.request.painter;
+    const QRect rect = labelRect(comboBox);
+    painter.save();
+    painter.setClipRect(rect, Qt::IntersectClip);
+    drawLabelParts(comboBox, rect);
+    painter.restore();
 }
 
 } // namespace
@@ -266,11 +275,23 @@ void polishDelegate(QStyle &style, QWidget &widget)
     }
 }
 
+void replaceDelegates(const QStyle &style)
+{
+    const auto delegates =
+        style.findChildren<ComboBoxDefaultItemDelegate *>(QString(), Qt::FindDirectChildrenOnly);
+    for (const ComboBoxDefaultItemDelegate *delegate : delegates) {
+        QComboBox *combo = delegate->comboBox();
+        if (combo && combo->itemDelegate() == delegate) {
+            combo->setItemDelegate(new ComboBoxDefaultItemDelegate(combo, combo));
+        }
+    }
+}
+
 bool drawLabel(const PaintRequest &request)
 {
     const auto *option = qstyleoption_cast<const QStyleOptionComboBox *>(request.option);
     if (option) {
-        drawLabelParts({request, *option});
+        drawClippedLabel({request, *option});
     }
     return option != nullptr;
 }

@@ -150,12 +150,14 @@ QRect arrowRect(const StepButton &button, const QRect &face)
 void drawStepButton(const PaintRequest &request, const QStyleOptionSpinBox &option,
                     const StepButton &button)
 {
-    const QRect face =
-        faceRect(option, request.proxy().subControlRect(QStyle::CC_SpinBox, &option,
-                                                        button.subControl, request.widget));
+    const QRect part = request.proxy().subControlRect(QStyle::CC_SpinBox, &option,
+                                                      button.subControl, request.widget);
+    const QRect face = faceRect(option, part);
     if (face.isEmpty()) {
         return;
     }
+    request.painter->save();
+    request.painter->setClipRect(part, Qt::IntersectClip);
     QStyleOption indicator(option);
     indicator.state = buttonState(option, button);
     const Interaction interaction = interactionOf(indicator);
@@ -171,6 +173,7 @@ void drawStepButton(const PaintRequest &request, const QStyleOptionSpinBox &opti
     // Arrows have a straight edge on the pixels, and two whose steps are even.
     request.painter->setRenderHint(QPainter::Antialiasing, false);
     request.draw(hasSign ? button.sign : button.arrow, indicator);
+    request.painter->restore();
 }
 
 /// The bars of a plus or a minus.

@@ -29,6 +29,8 @@ private Q_SLOTS:
     void textIsBesideTheIcon_data();
     void textIsBesideTheIcon();
     void iconOfEditableHasAField();
+    void translucentFieldIsDrawnToo();
+    void largeIconKeepsToTheLabel();
     void needsItsOption();
 };
 
@@ -187,6 +189,44 @@ void ComboBoxLabelTest::iconOfEditableHasAField()
         QCOMPARE(theme.nameAt(picture, {icon.right(), 14}),
                  widget ? text("BackgroundSubLevel2Brush") : text("BackgroundUpLevel1Brush"));
     }
+}
+
+void ComboBoxLabelTest::translucentFieldIsDrawnToo()
+{
+    constexpr char name[] = "InputUncheckedBackgroundBrush";
+    QVariantMap variables = qApp->property("theme_var").toMap();
+    QVariantMap brushes = variables.value(text("brushes")).toMap();
+    brushes.insert(text(name), QBrush(QColor(0, 0, 255, 128)));
+    variables.insert(text("brushes"), brushes);
+    qApp->setProperty("theme_var", variables);
+    CallRecorder recorder;
+    QStyleOptionComboBox option = comboBoxOption(true);
+    option.iconSize = QSize(16, 16);
+    option.currentIcon = squareIcon(Qt::green);
+    const QImage picture =
+        recorder.picture(QStyle::CE_ComboBoxLabel, option, nullptr, sampleSize, Qt::black);
+    const QRect icon = recorder.call("drawItemPixmap").rect;
+    QCOMPARE(picture.pixelColor(icon.left() + 1, icon.top() + 6).blue(), 128);
+}
+
+void ComboBoxLabelTest::largeIconKeepsToTheLabel()
+{
+    const PaintTheme theme;
+    CallRecorder recorder;
+    QStyleOptionComboBox option = comboBoxOption(false);
+    option.rect = QRect(0, 0, 40, 28);
+    option.iconSize = QSize(32, 32);
+    QPixmap square(option.iconSize);
+    square.fill(Qt::green);
+    option.currentIcon = QIcon(square);
+    const QImage picture =
+        recorder.picture(QStyle::CE_ComboBoxLabel, option, nullptr, option.rect.size());
+    const QRect arrow = recorder.style().subControlRect(QStyle::CC_ComboBox, &option,
+                                                        QStyle::SC_ComboBoxArrow, nullptr);
+    const QRect icon = recorder.call("drawItemPixmap").rect;
+    QVERIFY(icon.contains(arrow.center()));
+    QVERIFY(picture.pixelColor(13, 14) != QColor(Qt::black));
+    QCOMPARE(picture.pixelColor(arrow.center()), QColor(Qt::black));
 }
 
 void ComboBoxLabelTest::needsItsOption()

@@ -26,6 +26,26 @@ QImage signGround()
     return picture;
 }
 
+/// A further style whose arrows are far too large.
+class LargeArrows : public QProxyStyle
+{
+public:
+    LargeArrows()
+        : QProxyStyle(new TARN::BaseStyle)
+    {
+    }
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
+                       const QWidget *widget) const override
+    {
+        if (element == PE_IndicatorSpinUp) {
+            painter->fillRect(QRect(-500, -500, 1000, 1000), Qt::red);
+        } else if (element != PE_IndicatorSpinDown) {
+            QProxyStyle::drawPrimitive(element, option, painter, widget);
+        }
+    }
+};
+
 } // namespace
 
 Q_DECLARE_METATYPE(QStyle::State)
@@ -44,6 +64,7 @@ private Q_SLOTS:
     void usedButtonHasAFace();
     void onlyTheActiveButtonIsUsed();
     void faceKeepsToTheInside();
+    void indicatorsKeepToTheirButtons();
     void rightToLeftIsTheMirrorImage();
     void needsItsOption();
     void minus_data();
@@ -187,6 +208,27 @@ void SpinBoxPaintTest::faceKeepsToTheInside()
     }
     QCOMPARE(theme.nameAt(hovered, inUpFace), text("ButtonUncheckedHoverBackgroundBrush"));
     QVERIFY(theme.nameAt(hovered, {78, 1}) != text("ButtonUncheckedHoverBackgroundBrush"));
+}
+
+void SpinBoxPaintTest::indicatorsKeepToTheirButtons()
+{
+    const PaintTheme theme;
+    const LargeArrows style;
+    const QStyleOptionSpinBox option = spinBoxOption();
+    QImage picture(option.rect.size(), QImage::Format_RGB32);
+    picture.fill(Qt::black);
+    QPainter painter(&picture);
+    style.drawComplexControl(QStyle::CC_SpinBox, &option, &painter, nullptr);
+    QVERIFY(!painter.hasClipping());
+    painter.end();
+    const QRect button =
+        style.subControlRect(QStyle::CC_SpinBox, &option, QStyle::SC_SpinBoxUp, nullptr);
+    QVERIFY(button.isValid());
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            QCOMPARE(picture.pixelColor(x, y) == QColor(Qt::red), button.contains(x, y));
+        }
+    }
 }
 
 void SpinBoxPaintTest::rightToLeftIsTheMirrorImage()
