@@ -3,7 +3,6 @@
 #include "catalogue/Names.h"
 #include "catalogue/Words.h"
 #include "resources/ThemeResources.h"
-#include "style/ComboBoxDefaultItemDelegate.h"
 #include "style/asking/Backgrounds.h"
 #include "style/brushes/ButtonBrushChoice.h"
 #include "style/brushes/KeptBrushes.h"
@@ -12,6 +11,7 @@
 #include "style/drawing/Marks.h"
 #include "style/drawing/Palettes.h"
 #include "style/drawing/Shapes.h"
+#include "style/families/ComboBoxes.h"
 #include "style/families/TitleBars.h"
 #include "style/families/buttons/ButtonGroups.h"
 #include "style/families/buttons/ToolButtons.h"
@@ -25,6 +25,7 @@
 #include "style/watching/AltKey.h"
 #include "style/watching/EventFilter.h"
 
+#include <QtCore/QPointer>
 #include <QtGui/QPainter>
 #include <QtWidgets/QStyleOption>
 #include <QtWidgets/QStyleOptionTab>
@@ -36,17 +37,18 @@ namespace TARN {
 
 namespace {
 
-/// The combo boxes that use a delegate of \a style get one of their own.
-void replaceDelegates(const BaseStyle &style)
+/// Draws what the base style draws, without finding the glyphs again; tells whether it could.
+bool drawPlainText(QPainter &painter, const QRect &rect, int flags, const QString &text,
+                   QPalette::ColorRole role, const QBrush &brush)
 {
-    const auto delegates =
-        style.findChildren<ComboBoxDefaultItemDelegate *>(QString(), Qt::FindDirectChildrenOnly);
-    for (const ComboBoxDefaultItemDelegate *delegate : delegates) {
-        QComboBox *combo = delegate->comboBox();
-        if (combo && combo->itemDelegate() == delegate) {
-            combo->setItemDelegate(new ComboBoxDefaultItemDelegate(combo, combo));
-        }
+    if (role == QPalette::NoRole) {
+        return drawSingleLine(painter, rect, flags, text);
     }
+    const QPen pen = painter.pen();
+    painter.setPen(outlinePen(brush));
+    const bool isDrawn = drawSingleLine(painter, rect, flags, text);
+    painter.setPen(pen);
+    return isDrawn;
 }
 
 } // namespace
@@ -55,6 +57,8 @@ void replaceDelegates(const BaseStyle &style)
 class BaseStyle::State
 {
 public:
+    /// The base style that was made for us; an application may set another one.
+    QPointer<QStyle> fusion;
     QPalette palette;
     AltKey altKey;
 };
@@ -63,7 +67,8 @@ BaseStyle::BaseStyle()
     : QProxyStyle(QStringLiteral("fusion"))
     , m_state(std::make_unique<State>())
 {
-    m_state->palette = baseStyle()->standardPalette();
+    m_state->fusion = baseStyle();
+    m_state->palette = m_state->fusion->standardPalette();
     // These are looked up when a style is made, whether or not anything is painted with them.
     themeBrush(BrushName::ExpanderHeaderBrush, true);
     themeBrush(BrushName::BackgroundBrush, true);
@@ -71,7 +76,7 @@ BaseStyle::BaseStyle()
 
 BaseStyle::~BaseStyle()
 {
-    replaceDelegates(*this);
+    ComboBoxes::replaceDelegates(*this);
 }
 
 const QPalette &BaseStyle::getPalette() const
@@ -181,30 +186,25 @@ void BaseStyle::drawItemText(QPainter *painter, const QRect &rect, int flags,
                              const QPalette &palette, bool enabled, const QString &text,
                              QPalette::ColorRole textRole) const
 {
-    if (enabled) {
-        drawText(painter, rect, flags, palette, enabled, text, textRole);
+    const QBrush brush =
+        enabled ? palette.brush(textRole) : QBrush(palette.color(QPalette::Disabled, textRole));
+    if (drawsTextsItself(enabled) && drawPlainText(*painter, rect, flags, text, textRole, brush)) {
         return;
     }
-    const QPalette disabled =
-        paletteWith(palette, textRole, palette.color(QPalette::Disabled, textRole));
-    drawText(painter, rect, flags, disabled, enabled, text, textRole);
+    QPalette copy = palette;
+    if (!enabled) {
+        copy.setBrush(QPalette::All, textRole, brush);
+    }
+    QProxyStyle::drawItemText(painter, rect, flags, copy, enabled, text, textRole);
 }
 
-/// Draws what the base style draws, in most cases without finding the glyphs again.
-void BaseStyle::drawText(QPainter *painter, const QRect &rect, int flags, const QPalette &palette,
-                         bool enabled, const QString &text, QPalette::ColorRole textRole) const
+/// Tells whether the base style would draw a text as we do: it is the one that was made for us, and
+/// etches nothing.
+bool BaseStyle::drawsTextsItself(bool enabled) const
 {
-    const bool isPlain = enabled || (proxy()->styleHint(SH_DitherDisabledText) == 0 &&
-                                     proxy()->styleHint(SH_EtchDisabledText) == 0);
-    const QPen pen = painter->pen();
-    if (textRole != QPalette::NoRole) {
-        painter->setPen(outlinePen(palette.brush(textRole)));
-    }
-    const bool isDrawn = isPlain && drawSingleLine(*painter, rect, flags, text);
-    painter->setPen(pen);
-    if (!isDrawn) {
-        QProxyStyle::drawItemText(painter, rect, flags, palette, enabled, text, textRole);
-    }
+    return baseStyle() == m_state->fusion &&
+           (enabled || (proxy()->styleHint(SH_DitherDisabledText) == 0 &&
+                        proxy()->styleHint(SH_EtchDisabledText) == 0));
 }
 
 void BaseStyle::drawItemPixmap(QPainter *painter, const QRect &rect, int alignment,

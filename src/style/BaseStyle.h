@@ -181,8 +181,7 @@ Q_SIGNALS:
     void paletteChanged(const QPalette &palette);
 
 private:
-    void drawText(QPainter *painter, const QRect &rect, int flags, const QPalette &palette,
-                  bool enabled, const QString &text, QPalette::ColorRole textRole) const;
+    bool drawsTextsItself(bool enabled) const;
 
     class State;
     std::unique_ptr<State> m_state;

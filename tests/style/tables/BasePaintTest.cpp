@@ -58,6 +58,31 @@ private:
     std::vector<BaseCall> &m_calls;
 };
 
+/// A base style that remembers the palette with which it last drew a text.
+class TextStyle : public QProxyStyle
+{
+public:
+    TextStyle()
+        : QProxyStyle(QStringLiteral("fusion"))
+    {
+    }
+
+    void drawItemText(QPainter * /*painter*/, const QRect & /*rect*/, int /*flags*/,
+                      const QPalette &palette, bool /*enabled*/, const QString & /*text*/,
+                      QPalette::ColorRole /*role*/) const override
+    {
+        ++m_count;
+        m_palette = palette;
+    }
+
+    int count() const { return m_count; }
+    const QPalette &palette() const { return m_palette; }
+
+private:
+    mutable int m_count = 0;
+    mutable QPalette m_palette;
+};
+
 } // namespace
 
 /// What the style leaves to its base style.
@@ -66,6 +91,33 @@ class BasePaintTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    /// A base style that an application sets draws every text, of disabled ones in one colour for
+    /// all groups.
+    void anotherBaseStyleDrawsTexts()
+    {
+        TARN::BaseStyle style;
+        auto *base = new TextStyle;
+        style.setBaseStyle(base);
+        QPalette palette;
+        palette.setBrush(QPalette::All, QPalette::Text, Qt::black);
+        palette.setBrush(QPalette::Disabled, QPalette::Text, Qt::gray);
+        QImage picture(100, 20, QImage::Format_RGB32);
+        QPainter painter(&picture);
+        const auto draw = [&](bool enabled) {
+            style.drawItemText(&painter, picture.rect(), Qt::AlignCenter, palette, enabled,
+                               text("Text"), QPalette::Text);
+        };
+        draw(true);
+        QCOMPARE(base->count(), 1);
+        QCOMPARE(base->palette(), palette);
+        draw(false);
+        QCOMPARE(base->count(), 2);
+        for (const QPalette::ColorGroup group :
+             {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+            QCOMPARE(base->palette().color(group, QPalette::Text), QColor(Qt::gray));
+        }
+    }
+
     void init();
 
     void otherElementsReachTheBaseStyle_data();
