@@ -246,7 +246,8 @@ TiledShape::TiledShape(const Placement &placement, qreal radius, QPainter &paint
     , m_rim(placement.rim)
     , m_isFilled(placement.isFilled)
     , m_radius(qMin(radius * m_scale, (qMin(m_rect.width(), m_rect.height()) - m_rim) / 2.0))
-    , m_corner(int(std::ceil(m_radius + m_rim / 2.0)))
+    // Square corners are as large as the rim is wide.
+    , m_corner(qMax(m_rim, int(std::ceil(m_radius + m_rim / 2.0))))
     , m_stretched(m_rect.width() > 2 * m_corner && !isSmall(m_rect.size()))
     , m_tall(m_rect.height() > qMax(highestWholeTile, 2 * m_corner))
 {

@@ -175,6 +175,46 @@ private Q_SLOTS:
         }
     }
 
+    /// Outlines are as wide at the top and at the bottom as at the sides, whether the shape is kept
+    /// whole or put together from pieces.
+    void outlinesAreEvenAllAround_data()
+    {
+        QTest::addColumn<qreal>("scale");
+        for (const qreal scale : {1.0, 1.5, 2.0, 2.5, 3.0, 4.0}) {
+            QTest::addRow("%g", scale) << scale;
+        }
+    }
+
+    void outlinesAreEvenAllAround()
+    {
+        QFETCH(qreal, scale);
+        const Look look = lookOf(text("both"));
+        const QRgb outline = look.pen.color().rgb();
+        for (const int radius : {0, 1, 2}) {
+            for (const QSize &size :
+                 {QSize(12, 12), QSize(40, 20), QSize(40, 40), QSize(140, 30), QSize(140, 140)}) {
+                const QImage image = draw(scale, look, size, radius, NoStraightCorner, true);
+                const auto widthFrom = [&](QPoint place, const QPoint &step) {
+                    int width = 0;
+                    while (image.pixel(place) != outline) {
+                        place += step;
+                    }
+                    for (; image.pixel(place) == outline; place += step) {
+                        ++width;
+                    }
+                    return width;
+                };
+                const QPoint middle =
+                    (QPointF(QRect(QPoint(7, 5), size).center()) * scale).toPoint();
+                const int expected = qMax(1, int(scale));
+                QCOMPARE(widthFrom({0, middle.y()}, {1, 0}), expected);
+                QCOMPARE(widthFrom({image.width() - 1, middle.y()}, {-1, 0}), expected);
+                QCOMPARE(widthFrom({middle.x(), 0}, {0, 1}), expected);
+                QCOMPARE(widthFrom({middle.x(), image.height() - 1}, {0, -1}), expected);
+            }
+        }
+    }
+
     void opacityAppliesToTheWholeShape()
     {
         QImage image = canvas(1);

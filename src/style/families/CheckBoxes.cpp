@@ -37,17 +37,34 @@ constexpr Parts radioButtonParts{QStyle::SE_RadioButtonIndicator, QStyle::PE_Ind
                                  QStyle::SE_RadioButtonContents, QStyle::CE_RadioButtonLabel,
                                  QStyle::SE_RadioButtonFocusRect};
 
-QBrush borderBrush(const PaintRequest &request)
+QBrush borderBrush(const PaintRequest &request, bool isStressed)
 {
     const QStyleOption &option = *request.option;
     const bool enabled = isEnabled(option);
     if (isInError(request.widget)) {
         return errorBrush(enabled);
     }
-    const bool isStressed = isHovered(option) || hasKeyboardFocus(option);
-    return isStressed && !has(option, QStyle::State_Sunken)
-               ? themeBrush(BrushName::MainBrush, enabled)
-               : themeBrush(BrushName::ControlBorderBrush, enabled);
+    return isStressed ? themeBrush(BrushName::MainBrush, enabled)
+                      : themeBrush(BrushName::ControlBorderBrush, enabled);
+}
+
+/// Tells whether the mouse or the keyboard is at the control.
+bool isAttended(const QStyleOption &option)
+{
+    return isHovered(option) || hasKeyboardFocus(option);
+}
+
+/// A check box that is pressed has the outline of one at rest.
+QBrush checkBoxBorder(const PaintRequest &request)
+{
+    const QStyleOption &option = *request.option;
+    return borderBrush(request, isAttended(option) && !has(option, QStyle::State_Sunken));
+}
+
+/// A radio button keeps the outline that it has under the mouse while it is pressed.
+QBrush radioButtonBorder(const PaintRequest &request)
+{
+    return borderBrush(request, isAttended(*request.option));
 }
 
 const QBrush &markBrush(const QStyleOption &option)
@@ -58,11 +75,11 @@ const QBrush &markBrush(const QStyleOption &option)
 
 /// Draws the box or the circle, which keeps its ground when it is checked: the mark stands out
 /// from no other.
-void drawBox(const PaintRequest &request, int radius)
+void drawBox(const PaintRequest &request, const QBrush &border, int radius)
 {
     const QStyleOption &option = *request.option;
-    QPen pen = outlinePen(borderBrush(request));
-    // A pressed one has the outline of one at rest, twice as thick. Two outlines beside each other
+    QPen pen = outlinePen(border);
+    // A pressed one has a thicker outline. Two outlines beside each other
     // would leave a gap at some scales.
     const bool isPressed = has(option, QStyle::State_Sunken);
     const qreal inset = isPressed ? 1.0 : 0.5;
@@ -153,7 +170,7 @@ void drawSwitch(const PaintRequest &request)
     const bool isOn = has(option, QStyle::State_On);
     const QRectF track = onHalfPixel(option.rect);
     // Filled in the main colour, so that what is on is seen without comparing the ends.
-    drawShape(*request.painter, track, trackRadius, outlinePen(borderBrush(request)),
+    drawShape(*request.painter, track, trackRadius, outlinePen(checkBoxBorder(request)),
               isOn ? themeBrush(BrushName::MainBrush, enabled)
                    : themeBrush(BrushName::ControlBackgroundBrush, enabled));
     const QRectF knob = squareOnPixels(*request.painter, knobRect(request, track));
@@ -222,7 +239,7 @@ bool drawCheckIndicator(const PaintRequest &request)
     if (isSet(request.widget, Property::Switch)) {
         drawSwitch(request);
     } else {
-        drawBox(request, cornerRadius(CornerSize::Base));
+        drawBox(request, checkBoxBorder(request), cornerRadius(CornerSize::Base));
         drawCheckState(request);
     }
     return true;
@@ -231,7 +248,7 @@ bool drawCheckIndicator(const PaintRequest &request)
 bool drawRadioIndicator(const PaintRequest &request)
 {
     const QStyleOption &option = *request.option;
-    drawBox(request, roundRadius(option.rect));
+    drawBox(request, radioButtonBorder(request), roundRadius(option.rect));
     if (has(option, QStyle::State_On)) {
         drawRadioMark(*request.painter, option.rect, markBrush(option));
     }

@@ -32,13 +32,6 @@ bool isTextEdit(const QWidget *widget)
     return qobject_cast<const QTextEdit *>(widget) || qobject_cast<const QPlainTextEdit *>(widget);
 }
 
-/// The option of a text edit does not tell.
-bool isReadOnly(const PaintRequest &request)
-{
-    return has(*request.option, QStyle::State_ReadOnly) ||
-           (isTextEdit(request.widget) && isSet(request.widget, Property::ReadOnly));
-}
-
 QPen framePen(const PaintRequest &request)
 {
     const QStyleOption &option = *request.option;
@@ -48,10 +41,7 @@ QPen framePen(const PaintRequest &request)
     if (has(option, QStyle::State_HasFocus)) {
         return outlinePen(themeBrush(BrushName::InputBorderActiveBrush, isEnabled(option)));
     }
-    // The text of a read-only input is as legible as any; its outline is as faint as that of a
-    // disabled one, for there is nothing to be typed in.
-    const bool isPlain = isEnabled(option) && !isReadOnly(request);
-    return outlinePen(themeBrush(BrushName::InputBorderBrush, isPlain));
+    return outlinePen(themeBrush(BrushName::InputBorderBrush, isEnabled(option)));
 }
 
 QBrush frameGround(const PaintRequest &request)

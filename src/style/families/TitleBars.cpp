@@ -33,7 +33,8 @@ struct Button
 {
     QStyle::SubControl subControl;
     QStyle::StandardPixmap pixmap;
-    /// The base style has a place for some buttons that the window does not want.
+    /// A button among the sub-controls is drawn when the window also has this flag: the base style
+    /// has a place for some buttons that the window does not want.
     Qt::WindowType hint;
 };
 

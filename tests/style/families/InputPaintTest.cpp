@@ -119,7 +119,7 @@ void InputPaintTest::frameOfTextEdits_data()
     QTest::newRow("focus") << (enabled | QStyle::State_HasFocus) << false
                            << text("InputBorderActiveBrush")
                            << text("InputUncheckedBackgroundBrush");
-    QTest::newRow("read-only") << enabled << true << text("InputBorderBrushDisabled")
+    QTest::newRow("read-only") << enabled << true << text("InputBorderBrush")
                                << text("InputUncheckedBackgroundBrush");
     QTest::newRow("disabled") << QStyle::State(QStyle::State_None) << false
                               << text("InputBorderBrushDisabled")
@@ -165,8 +165,7 @@ void InputPaintTest::lineEditFrame_data()
     QTest::newRow("at rest") << enabled << text("InputBorderBrush");
     QTest::newRow("hovered") << (enabled | QStyle::State_MouseOver) << text("InputBorderBrush");
     QTest::newRow("focus") << (enabled | QStyle::State_HasFocus) << text("InputBorderActiveBrush");
-    QTest::newRow("read-only") << (enabled | QStyle::State_ReadOnly)
-                               << text("InputBorderBrushDisabled");
+    QTest::newRow("read-only") << (enabled | QStyle::State_ReadOnly) << text("InputBorderBrush");
     QTest::newRow("read-only, focus") << (enabled | QStyle::State_ReadOnly | QStyle::State_HasFocus)
                                       << text("InputBorderActiveBrush");
     QTest::newRow("disabled") << QStyle::State(QStyle::State_None)

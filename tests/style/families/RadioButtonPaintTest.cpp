@@ -62,8 +62,14 @@ void RadioButtonPaintTest::indicator_data()
     QTest::newRow("on") << on << border << text("ForegroundBrush");
     QTest::newRow("on, hovered") << (on | QStyle::State_MouseOver) << mainBorder
                                  << text("ForegroundMouseOverBrush");
-    QTest::newRow("on, pressed") << (on | QStyle::State_MouseOver | QStyle::State_Sunken) << border
-                                 << text("ForegroundMouseOverBrush");
+    QTest::newRow("on, pressed") << (on | QStyle::State_MouseOver | QStyle::State_Sunken)
+                                 << mainBorder << text("ForegroundMouseOverBrush");
+    QTest::newRow("off, pressed") << (enabled | QStyle::State_MouseOver | QStyle::State_Sunken)
+                                  << mainBorder << background;
+    QTest::newRow("on, pressed by keyboard")
+        << (on | keyboard | QStyle::State_Sunken) << mainBorder << text("ForegroundBrush");
+    QTest::newRow("on, pressed by code")
+        << (on | QStyle::State_Sunken) << border << text("ForegroundBrush");
     QTest::newRow("disabled") << QStyle::State(QStyle::State_MouseOver)
                               << text("ControlBorderBrushDisabled")
                               << text("ControlBackgroundBrushDisabled");
