@@ -14,8 +14,6 @@
 #include <optional>
 #include <support/PaintCounter.h>
 #include <support/Text.h>
-#include <support/themes/IconTheme.h>
-#include <support/themes/UniqueTheme.h>
 
 using TARN::BaseStyle;
 
@@ -99,8 +97,6 @@ class EventFilterTest : public QObject
     Q_OBJECT
 
 private:
-    UniqueTheme m_theme;
-    IconTheme m_icons;
     BaseStyle *m_style = nullptr;
 
     void send(QWidget &watched, QEvent::Type type, int key = Qt::Key_Alt)
@@ -112,16 +108,7 @@ private:
 private Q_SLOTS:
     void initTestCase()
     {
-        m_icons.add(text("action.close"), referenceForeground);
-        m_icons.add(text("star"), referenceForeground);
-        m_icons.add(text("red"), Qt::red);
         m_style = new BaseStyle;
-        QPalette palette = m_style->standardPalette();
-        palette.setColor(QPalette::WindowText, QColor(1, 2, 3));
-        palette.setColor(QPalette::ButtonText, QColor(4, 5, 6));
-        palette.setColor(QPalette::Disabled, QPalette::WindowText, QColor(7, 8, 9));
-        palette.setColor(QPalette::Disabled, QPalette::ButtonText, QColor(10, 11, 12));
-        m_style->setPalette(palette);
         QApplication::setStyle(m_style);
     }
 

@@ -33,43 +33,12 @@ Q_DECLARE_METATYPE(QStyleOptionViewItem::Position)
 Q_DECLARE_METATYPE(QStyle::StateFlag)
 
 /// The contents of items.
-class ItemPaintTest : public QObject
+class ItemPaintTest : public ItemTest
 {
     Q_OBJECT
 
-private:
-    PaintTheme m_theme;
-    CallRecorder m_recorder;
-    BareFusion m_fusion;
-    QTemporaryDir m_icons;
-
-    QImage picture(const QStyleOptionViewItem &option, const QWidget *widget = nullptr,
-                   const QColor &ground = Qt::white)
-    {
-        return m_recorder.picture(QStyle::CE_ItemViewItem, option, widget, pictureSize, ground);
-    }
-
-    QImage fusionPicture(const QStyleOptionViewItem &option)
-    {
-        QImage picture(pictureSize, QImage::Format_RGB32);
-        picture.fill(Qt::white);
-        QPainter painter(&picture);
-        m_fusion.drawControl(QStyle::CE_ItemViewItem, &option, &painter);
-        return picture;
-    }
-
 private Q_SLOTS:
-    void initTestCase()
-    {
-        // It makes the disabled and the selected pictures of icons.
-        QApplication::setStyle(new TARN::BaseStyle);
-        QVERIFY(m_icons.isValid());
-        QDir::setSearchPaths(text("icons"), {m_icons.path()});
-        QImage square(16, 16, QImage::Format_RGB32);
-        square.fill(referenceForeground);
-        QVERIFY(square.save(m_icons.filePath(text("chevron.left.png"))));
-        QVERIFY(square.save(m_icons.filePath(text("chevron.right.png"))));
-    }
+    void initTestCase() { prepareIcons(); }
 
     void scaledPictures_data()
     {
