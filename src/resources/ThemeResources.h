@@ -96,7 +96,8 @@ public:
     /// the extension of any image format that Qt can read or as the name stands, gives the image.
     ///
     /// Each call searches and reads anew; who paints often keeps the result. A QGuiApplication has
-    /// to exist. An image of more than 2^28 pixels is only read at a given size.
+    /// to exist. An image of more than 2^28 pixels is only read at a given size. What is neither a
+    /// file nor a folder, such as a pipe, gives no image: reading it might never end.
     /// \{
 
     /// Returns the icon \a name ("action.copy"); a null icon when there is none. Icons of the icon

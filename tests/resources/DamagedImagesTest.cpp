@@ -9,6 +9,7 @@
 #include <support/MessageRecorder.h>
 #include <support/Text.h>
 #include <support/ThemeRepository.h>
+#include <sys/stat.h>
 
 using TARN::ThemeResources;
 
@@ -69,6 +70,21 @@ private Q_SLOTS:
         m_files = std::make_unique<ThemeRepository>();
         QDir::setSearchPaths(text("icons"), {m_files->path()});
         QDir::setSearchPaths(text("cursors"), {m_files->path()});
+    }
+
+    /// Nobody writes into the pipe, so whoever reads it waits for ever.
+    void pipesAreNoImages()
+    {
+        for (const char *name : {"/pipe", "/other.svg", "/another.cur"}) {
+            const QByteArray path = QFile::encodeName(m_files->path() + text(name));
+            QCOMPARE(mkfifo(path.constData(), S_IRUSR | S_IWUSR), 0);
+        }
+        for (const QString &name : {text("pipe"), text("other"), text("another")}) {
+            QVERIFY(ThemeResources::getIcon(name).isNull());
+            QVERIFY(ThemeResources::getPixmap(name, iconSize).isNull());
+            QVERIFY(ThemeResources::getPixmap(name, QSize()).isNull());
+            QVERIFY(isArrow(ThemeResources::getCursor(name)));
+        }
     }
 
     void truncatedCursors()

@@ -68,11 +68,18 @@ bool isTooLarge(const QSize &size)
     return qint64(size.width()) * size.height() > mostPixels;
 }
 
+/// Tells whether \a path is that of a pipe or a device, which keep whoever reads them waiting.
+bool isSpecial(const QString &path)
+{
+    const QFileInfo info(path);
+    return info.exists() && !info.isFile() && !info.isDir();
+}
+
 /// Returns the image at \a path, at its own size when \a scaledSize is invalid. QPixmap's
 /// constructor would give an earlier content of the file when it was replaced within a second.
 QPixmap readPixmap(const QString &path, const QSize &scaledSize)
 {
-    if (!QFile::exists(path)) {
+    if (!QFile::exists(path) || isSpecial(path)) {
         return {};
     }
     QImageReader reader(path);
@@ -150,7 +157,7 @@ const QString &themeResourcesPrefix()
 QIcon icon(const QString &name)
 {
     const QString path = findIconPath(name);
-    return path.isEmpty() ? QIcon() : QIcon(path);
+    return path.isEmpty() || isSpecial(path) ? QIcon() : QIcon(path);
 }
 
 QStringList iconNames(const QRegularExpression &filter)
