@@ -175,6 +175,8 @@ void CleanSwitch::fontsAdded() const
 {
     if (m_active) {
         m_footprint.forgetFontLookUps();
+        // Who hears of the fonts may look up what no theme defines now.
+        ThemeGeneration::startNext();
     }
 }
 

@@ -144,6 +144,27 @@ private Q_SLOTS:
         }
     }
 
+    /// Whoever hears of new fonts may ask for disabled colours between two themes.
+    void whatIsAskedForBetweenThemesIsNotKept()
+    {
+        const QString path = text("colors/DisabledForegroundColor");
+        apply(text("Light"));
+        const QVariant expected = ThemeResources::getThemeVar(path);
+        QVERIFY(expected.isValid());
+        apply(text("Dark"));
+        int count = 0;
+        const auto ask = [&count] {
+            ThemeColorHelper::disabled(Qt::red, true);
+            ++count;
+        };
+        connect(qApp, &QGuiApplication::fontDatabaseChanged, this, ask);
+        connect(qApp, &QGuiApplication::fontChanged, this, ask);
+        apply(text("Light"));
+        disconnect(qApp, nullptr, this, nullptr);
+        QVERIFY(count > 0);
+        QCOMPARE(ThemeResources::getThemeVar(path), expected);
+    }
+
     void themesDiffer()
     {
         QVERIFY(freshRendering(text("Dark")) != freshRendering(text("Light")));
