@@ -3,11 +3,11 @@
 
 #include <theme/BaseThemeSettings.h>
 
-#include <QtCore/QElapsedTimer>
 #include <QtCore/QFileInfo>
 #include <QtCore/QTextCodec>
 #include <QtTest/QtTest>
 
+#include <support/ProcessorTimer.h>
 #include <support/ThemeRepository.h>
 
 using TARN::BaseThemeSettings;
@@ -99,8 +99,7 @@ private:
         QFETCH(int, status);
         const FileReader &fileReader = fileReaders().at(reader);
         const QString path = write(framed(content, fileReader));
-        QElapsedTimer timer;
-        timer.start();
+        const ProcessorTimer timer;
         QCOMPARE(fileReader.status(path), status);
         QVERIFY2(timer.elapsed() < patience, qPrintable(QString::number(timer.elapsed())));
     }
@@ -207,8 +206,7 @@ private Q_SLOTS:
             declarations += "<!ENTITY e" + QByteArray::number(i) + " \"&e1;\">";
         }
         const QString path = write("<!DOCTYPE theme [" + declarations + "]><theme/>");
-        QElapsedTimer timer;
-        timer.start();
+        const ProcessorTimer timer;
         QCOMPARE(BaseThemeSettings(path).getStatus(), int(Faulty));
         QVERIFY(timer.elapsed() < patience);
     }
@@ -251,8 +249,7 @@ private Q_SLOTS:
         const QString path = m_files.path(QStringLiteral("large.xml"));
         QVERIFY(document.write(path, fileReader, size));
 
-        QElapsedTimer timer;
-        timer.start();
+        const ProcessorTimer timer;
         const PeakMemory memory;
         QTEST(fileReader.status(path), "status");
         QVERIFY2(timer.elapsed() < patience, qPrintable(QString::number(timer.elapsed())));

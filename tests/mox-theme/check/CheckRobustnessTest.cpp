@@ -1,10 +1,10 @@
 #include <QtCore/QDir>
-#include <QtCore/QElapsedTimer>
 #include <QtCore/QRandomGenerator>
 #include <QtTest/QtTest>
 
 #include <mox-theme/support/SoundTheme.h>
 #include <support/MessageRecorder.h>
+#include <support/ProcessorTimer.h>
 #include <text/Literals.h>
 
 using namespace TARN::ThemeTool;
@@ -116,8 +116,7 @@ private Q_SLOTS:
         theme.check(); // what the process keeps is made by the first one
         qint64 best = patience;
         for (int i = 0; i < 3; ++i) {
-            QElapsedTimer timer;
-            timer.start();
+            const ProcessorTimer timer;
             QVERIFY(!theme.check().isEmpty());
             best = qMin(best, timer.elapsed());
         }

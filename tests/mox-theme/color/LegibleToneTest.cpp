@@ -1,12 +1,12 @@
 #include <common_utils/Contrast.h>
 
-#include <QtCore/QElapsedTimer>
 #include <QtCore/QRandomGenerator>
 #include <QtTest/QtTest>
 
 #include <cmath>
 #include <limits>
 #include <mox-theme/support/ToneDemands.h>
+#include <support/ProcessorTimer.h>
 
 using TARN::Helpers::contrastRatio;
 using TARN::Helpers::relativeLuminance;
@@ -267,8 +267,7 @@ void LegibleToneTest::costsAFractionOfTryingEveryTone()
     const auto shortestTime = [](const auto &work) {
         qint64 shortest = std::numeric_limits<qint64>::max();
         for (int run = 0; run < 9; ++run) {
-            QElapsedTimer timer;
-            timer.start();
+            const ProcessorTimer timer;
             for (int value = 0; value < 64; ++value) {
                 work(QColor(value / 2, value / 4, value));
             }
