@@ -9,7 +9,7 @@
 #include <optional>
 #include <vector>
 
-namespace TARN::IconTint {
+namespace TARN::ReplacedColor {
 
 namespace {
 
@@ -368,4 +368,4 @@ QImage replacedColor(const QImage &picture, QRgb from, const QImage &replacement
     return result;
 }
 
-} // namespace TARN::IconTint
+} // namespace TARN::ReplacedColor

@@ -7,7 +7,7 @@
 ///
 /// Pictures may have any format and are treated as what their pixels are: their device pixel
 /// ratio is ignored.
-namespace TARN::IconTint {
+namespace TARN::ReplacedColor {
 
 /// Returns a picture of \a size pixels that \a brush fills.
 ///
@@ -23,4 +23,4 @@ QImage filledPicture(const QBrush &brush, const QSize &size, qreal scale);
 /// pixels are left as they are. The alpha of \a from is ignored.
 QImage replacedColor(const QImage &picture, QRgb from, const QImage &replacement);
 
-} // namespace TARN::IconTint
+} // namespace TARN::ReplacedColor

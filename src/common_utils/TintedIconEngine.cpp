@@ -234,9 +234,9 @@ QPixmap TintedIconEngine::rendered(const Request &request) const
     if (original.isNull()) {
         return {};
     }
-    const QImage replacement = IconTint::filledPicture(m_to, original.size(), request.scale);
+    const QImage replacement = ReplacedColor::filledPicture(m_to, original.size(), request.scale);
     const QPixmap result =
-        QPixmap::fromImage(IconTint::replacedColor(original.toImage(), m_from, replacement));
+        QPixmap::fromImage(ReplacedColor::replacedColor(original.toImage(), m_from, replacement));
     const bool isFinished = !derived || (m_disabled && request.mode == QIcon::Disabled);
     return isFinished ? result : withEffect(request.mode, result);
 }
