@@ -243,9 +243,11 @@ DisableColor disablingBy(const QMap<QString, int> &factors)
     };
 }
 
-ThemeConfiguration readConfiguration(const QString &path, const ChooseDisabling &chooseDisabling)
+ThemeConfiguration readConfiguration(const QString &path, const ChooseDisabling &chooseDisabling,
+                                     const QFont &defaultFont)
 {
     ThemeConfiguration result;
+    result.font = ThemeFont(defaultFont);
     QDomDocument document;
     result.status = readXmlFile(path, document);
     if (result.status != ReadFine) {

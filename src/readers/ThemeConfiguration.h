@@ -40,8 +40,10 @@ DisableColor disablingBy(const QMap<QString, int> &factors);
 /// is published, nor is anything published. Never fails; the status tells how it went.
 ///
 /// \a chooseDisabling is asked once for a well-formed file, after its factors have been read and
-/// before any colour is disabled.
+/// before any colour is disabled. The sizes of the font that the file leaves out are \a
+/// defaultFont.
 ThemeConfiguration readConfiguration(const QString &path,
-                                     const ChooseDisabling &chooseDisabling = disablingBy);
+                                     const ChooseDisabling &chooseDisabling = disablingBy,
+                                     const QFont &defaultFont = QFont());
 
 } // namespace TARN

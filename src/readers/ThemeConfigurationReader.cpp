@@ -44,8 +44,13 @@ QMap<QString, BrushReader *> ThemeConfigurationReader::s_brushReaders{
 };
 
 ThemeConfigurationReader::ThemeConfigurationReader(const QString &path)
+    : ThemeConfigurationReader(path, QFont())
 {
-    ThemeConfiguration configuration = readConfiguration(path, publishAndDisable);
+}
+
+ThemeConfigurationReader::ThemeConfigurationReader(const QString &path, const QFont &defaultFont)
+{
+    ThemeConfiguration configuration = readConfiguration(path, publishAndDisable, defaultFont);
     m_status = configuration.status;
     m_colors = std::move(configuration.colors);
     m_internalColors = std::move(configuration.internalColors);

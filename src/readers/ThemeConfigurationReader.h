@@ -24,6 +24,9 @@ class MOX_COMMON_THEME_EXPORT ThemeConfigurationReader
 public:
     /// Reads the file at \a path. Never fails; getStatus() tells how it went.
     explicit ThemeConfigurationReader(const QString &path);
+    /// The same with \a defaultFont for the sizes of the font that the file leaves out, in place of
+    /// the application's default font.
+    ThemeConfigurationReader(const QString &path, const QFont &defaultFont);
 
     /// Returns 0 when the file was read without fault, 1 when it could not be opened, 2 when it
     /// is not well-formed or holds a faulty entry.

@@ -9,7 +9,12 @@ constexpr int sizeCount = 4;
 } // namespace
 
 ThemeFont::ThemeFont()
-    : m_fonts(sizeCount)
+    : ThemeFont(QFont())
+{
+}
+
+ThemeFont::ThemeFont(const QFont &font)
+    : m_fonts(sizeCount, font)
 {
 }
 

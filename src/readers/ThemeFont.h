@@ -18,6 +18,8 @@ public:
 
     /// Starts with the application's default font in all sizes.
     ThemeFont();
+    /// Starts with \a font in all sizes.
+    explicit ThemeFont(const QFont &font);
 
     QFont getFont(ThemeFontId id) const;
     void setFont(ThemeFontId id, const QFont &font);
