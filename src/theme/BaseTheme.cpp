@@ -78,10 +78,11 @@ void BaseTheme::customize(QApplication *app)
     ThemeFootprint &footprint = ThemeFootprint::of(*app);
     CleanSwitch cleanSwitch(*app, footprint);
 
-    footprint.addFonts(m_directory + QLatin1String("/Fonts"));
-    cleanSwitch.fontsAdded();
+    cleanSwitch.addFonts(m_directory + QLatin1String("/Fonts"));
 
-    const ThemeConfigurationReader configuration(m_directory + QLatin1String("/config.xml"));
+    cleanSwitch.forgetFactors();
+    const ThemeConfigurationReader configuration(m_directory + QLatin1String("/config.xml"),
+                                                 cleanSwitch.baseFont());
     if (configuration.getStatus() != ReadFine) {
         // Theme authors know this message by the name it gives.
         qDebug() << "Error reading theme palette file: "
@@ -92,20 +93,22 @@ void BaseTheme::customize(QApplication *app)
                                  configuration.getColorsMap(), cleanSwitch.basePalette());
 
     publishVariables(*app, configuration);
-    cleanSwitch.variablesPublished();
-
     if (cleanSwitch.isActive()) {
         // Widgets that fetch icons from a new style are to get the theme's.
+        cleanSwitch.takeBackImages();
         addImages(footprint, m_directory, getName());
     }
+    cleanSwitch.forgetLookUps();
 
     const QFont font = configuration.getFont().getFont(ThemeFont::Base);
     if (!qEnvironmentVariableIsSet("TARN_USE_NATIVE_STYLE")) {
         if (mapping.getStatus() != ReadFine) {
             qDebug() << "Error reading theme QPalette mapping file: " << mappingPath;
         }
-        cleanSwitch.replaceStyleSheet(font);
-        installStyle(*app, mapping.deserialize());
+        cleanSwitch.removeStyleSheet();
+        installStyle(mapping.deserialize());
+        cleanSwitch.spreadFont(font);
+        installStyleSheet(*app);
     }
     QApplication::setFont(font);
 

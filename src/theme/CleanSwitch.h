@@ -1,16 +1,15 @@
 #pragma once
 
+#include "theme/following/Followers.h"
+
 #include <QtCore/QByteArray>
 #include <QtCore/QMap>
-#include <QtCore/QPointer>
-#include <QtCore/QVector>
-#include <QtGui/QBrush>
 #include <QtGui/QFont>
 #include <QtGui/QPalette>
 
+#include <optional>
+
 class QApplication;
-class QLabel;
-class QMdiArea;
 
 namespace TARN {
 
@@ -19,49 +18,56 @@ class ThemeFootprint;
 /// The clean switch of an application that sets "appLiveThemeSwitch": one application of a theme
 /// that leaves nothing of the themes before it. Without that property it does nothing, and
 /// themes add up.
+///
+/// Its phases are called in the order in which they stand here. Until one of them replaces it,
+/// everything of the former theme is in force: whoever is told of a step finds one theme or the
+/// other, and never none.
 class CleanSwitch
 {
 public:
-    /// Takes back what earlier themes installed, so that a theme applied next finds the
-    /// application as it was before the first.
+    /// Remembers what shows the former theme.
     CleanSwitch(QApplication &app, ThemeFootprint &footprint);
 
     /// Tells whether the application wants a clean switch.
-    bool isActive() const { return m_active; }
+    bool isActive() const { return m_followers.has_value(); }
 
     /// Returns the palette that the theme's palette is to be based on.
     QPalette basePalette() const;
+    /// Returns the font for the sizes that the theme leaves out.
+    QFont baseFont() const;
 
-    /// To be called when the theme's fonts have been added: widgets still have the former theme's
-    /// font, and may have asked for it while it was missing.
-    void fontsAdded() const;
+    /// Adds the fonts in \a folder, in a clean switch in place of those of former themes.
+    void addFonts(const QString &folder);
 
-    /// To be called when the theme's variables have been read and published: values that
-    /// somebody looked up in the meantime are those of the former theme.
-    void variablesPublished() const;
+    /// Forgets by what factors colours were disabled. To be called before the theme's variables are
+    /// read.
+    void forgetFactors();
 
-    /// To be called when the theme's style and stylesheet are about to replace the former ones:
-    /// takes the former stylesheet off, and gives \a font to all widgets while none is in force,
-    /// since widgets below an application's stylesheet do not hear of a new application font.
-    void replaceStyleSheet(const QFont &font);
+    /// Removes the images of former themes. To be called when the theme's variables have been
+    /// published; the theme's images are to be added at once, before its style is there.
+    void takeBackImages();
+
+    /// Forgets whatever somebody has looked up so far: it may be the former theme's.
+    void forgetLookUps();
+
+    /// Removes the former stylesheet. To be called before the theme's style is installed.
+    void removeStyleSheet();
+
+    /// Gives \a font to all widgets. To be called while no stylesheet is in force: widgets below
+    /// that of an application do not hear of a new application font.
+    void spreadFont(const QFont &font);
 
     /// To be called when all has been applied: gives the application back the fonts that it chose
     /// for classes of widgets, which a change of the style or of the application font resets, and
-    /// has follow what does not do so by itself: labels and shown documents the palette, the icons
-    /// and sizes that widgets keep the style. In a clean switch the theme's images have to be there
-    /// before its style is.
+    /// has follow what does not do so by itself.
     void finish() const;
 
 private:
     QApplication &m_app;
-    const ThemeFootprint &m_footprint;
-    bool m_active;
-    bool m_replacesStyle = false;
-    QFont m_formerFont;
-    QBrush m_formerLink;
+    ThemeFootprint &m_footprint;
+    bool m_styleIsNew = false;
+    std::optional<Followers> m_followers;
     QMap<QByteArray, QFont> m_classFonts;
-    QVector<QPointer<QLabel>> m_plainLabels;
-    QVector<QPointer<QMdiArea>> m_plainAreas;
 };
 
 } // namespace TARN

@@ -61,13 +61,17 @@ QString compiledInStyleSheet()
 
 } // namespace
 
-void installStyle(QApplication &app, const QPalette &palette)
+void installStyle(const QPalette &palette)
 {
     const QPalette completePalette = withDisabledColors(palette);
     auto *style = new BaseStyle;
     style->setPalette(completePalette);
     QApplication::setStyle(style);
     QToolTip::setPalette(completePalette);
+}
+
+void installStyleSheet(QApplication &app)
+{
     app.setStyleSheet(ThemeResources::customizeStyleSheet(compiledInStyleSheet()));
 }
 

@@ -5,8 +5,11 @@ class QPalette;
 
 namespace TARN {
 
-/// Gives \a app a style with \a palette, whose disabled colours are derived, and the compiled-in
-/// stylesheets. The theme's variables must have been published.
-void installStyle(QApplication &app, const QPalette &palette);
+/// Gives the application a style with \a palette, whose disabled colours are derived. The theme's
+/// variables must have been published.
+void installStyle(const QPalette &palette);
+
+/// Gives \a app the compiled-in stylesheets. The theme's variables must have been published.
+void installStyleSheet(QApplication &app);
 
 } // namespace TARN

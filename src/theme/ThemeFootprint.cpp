@@ -1,11 +1,10 @@
 #include "theme/ThemeFootprint.h"
 
-#include "resources/ThemeResources.h"
-
 #include <QtCore/QDir>
 #include <QtCore/QDirIterator>
+#include <QtCore/QMap>
 #include <QtCore/QResource>
-#include <QtGui/QFontDatabase>
+#include <QtCore/QStringList>
 #include <QtGui/QIcon>
 #include <QtWidgets/QApplication>
 
@@ -14,6 +13,21 @@
 namespace TARN {
 
 namespace {
+
+/// The images that themes have added, which outlive the application.
+struct Additions
+{
+    QStringList resourceFiles;
+    QStringList iconThemeFolders;
+    QStringList fallbackIconFolders;
+    QMap<QString, QStringList> searchPaths;
+};
+
+Additions &additions()
+{
+    static Additions ofTheProcess;
+    return ofTheProcess;
+}
 
 /// Returns \a paths without the last occurrence of each of \a added: an earlier one may be the
 /// application's own.
@@ -38,9 +52,7 @@ ThemeFootprint &ThemeFootprint::of(QApplication &app)
 
 ThemeFootprint::ThemeFootprint(QApplication &app)
     : QObject(&app)
-    , m_app(app)
     , m_basePalette(QGuiApplication::palette())
-    , m_baseFont(QGuiApplication::font())
 {
 }
 
@@ -56,42 +68,32 @@ const QFont &ThemeFootprint::baseFont() const
 
 bool ThemeFootprint::isEmpty() const
 {
-    return m_searchPaths.isEmpty();
+    return m_isEmpty;
 }
 
 void ThemeFootprint::addFonts(const QString &folder)
 {
-    const QFileInfoList files =
-        QDir(folder).entryInfoList({QStringLiteral("*.ttf")}, QDir::NoFilter, QDir::NoSort);
-    for (const QFileInfo &file : files) {
-        const int id = QFontDatabase::addApplicationFont(file.absoluteFilePath());
-        if (id >= 0) {
-            m_fonts.insert(id, file.absoluteFilePath());
-        }
-    }
+    m_fonts.add(folder);
+    m_isEmpty = false;
 }
 
-void ThemeFootprint::forgetFontLookUps() const
+void ThemeFootprint::replaceFonts(const QString &folder)
 {
-    if (m_fonts.isEmpty()) {
-        return;
-    }
-    // The font database forgets what it has found when a font is removed, and not before.
-    const int id = QFontDatabase::addApplicationFont(m_fonts.first());
-    QFontDatabase::removeApplicationFont(id);
+    m_fonts.replace(folder);
+    m_isEmpty = false;
 }
 
 void ThemeFootprint::addIconTheme(const QString &folder, const QString &name)
 {
     QIcon::setThemeSearchPaths(QIcon::themeSearchPaths() << folder);
-    m_iconThemeFolders.append(folder);
+    additions().iconThemeFolders.append(folder);
     QIcon::setThemeName(name);
 }
 
 void ThemeFootprint::addFallbackIcons(const QString &folder)
 {
     QIcon::setFallbackSearchPaths(QIcon::fallbackSearchPaths() << folder);
-    m_fallbackIconFolders.append(folder);
+    additions().fallbackIconFolders.append(folder);
 }
 
 void ThemeFootprint::addResourceFiles(const QString &folder)
@@ -100,7 +102,7 @@ void ThemeFootprint::addResourceFiles(const QString &folder)
     while (entries.hasNext()) {
         const QString path = entries.next();
         if (path.endsWith(QLatin1String(".rcc")) && QResource::registerResource(path)) {
-            m_resourceFiles.append(path);
+            additions().resourceFiles.append(path);
         }
     }
 }
@@ -108,28 +110,24 @@ void ThemeFootprint::addResourceFiles(const QString &folder)
 void ThemeFootprint::addSearchPath(const QString &prefix, const QString &folder)
 {
     QDir::addSearchPath(prefix, folder);
-    m_searchPaths[prefix].append(folder);
+    additions().searchPaths[prefix].append(folder);
 }
 
-void ThemeFootprint::takeBack()
+void ThemeFootprint::takeBackImages()
 {
-    for (auto it = m_searchPaths.cbegin(); it != m_searchPaths.cend(); ++it) {
+    Additions &added = additions();
+    const auto searchPaths = std::exchange(added.searchPaths, {});
+    for (auto it = searchPaths.cbegin(); it != searchPaths.cend(); ++it) {
         QDir::setSearchPaths(it.key(), without(QDir::searchPaths(it.key()), it.value()));
     }
-    m_searchPaths.clear();
-
     QIcon::setFallbackSearchPaths(
-        without(QIcon::fallbackSearchPaths(), std::exchange(m_fallbackIconFolders, {})));
+        without(QIcon::fallbackSearchPaths(), std::exchange(added.fallbackIconFolders, {})));
     QIcon::setThemeSearchPaths(
-        without(QIcon::themeSearchPaths(), std::exchange(m_iconThemeFolders, {})));
-    for (const QString &file : std::exchange(m_resourceFiles, {})) {
+        without(QIcon::themeSearchPaths(), std::exchange(added.iconThemeFolders, {})));
+    const QStringList resourceFiles = std::exchange(added.resourceFiles, {});
+    for (const QString &file : resourceFiles) {
         QResource::unregisterResource(file);
     }
-    const QList<int> fontIds = std::exchange(m_fonts, {}).keys();
-    for (const int id : fontIds) {
-        QFontDatabase::removeApplicationFont(id);
-    }
-    m_app.setProperty(ThemeResources::getInternalThemeVariablePropertyName(), QVariant());
 }
 
 } // namespace TARN

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <QtCore/QMap>
+#include "theme/AddedFonts.h"
+
 #include <QtCore/QObject>
-#include <QtCore/QStringList>
 #include <QtGui/QFont>
 #include <QtGui/QPalette>
 
@@ -18,7 +18,8 @@ class ThemeFootprint : public QObject
 
 public:
     /// Returns the footprint of \a app, which owns it. The first call defines what the
-    /// application looks like without a theme.
+    /// application looks like without a theme. The images that themes have added to earlier
+    /// applications of the process count as added to this one: they are still there.
     static ThemeFootprint &of(QApplication &app);
 
     /// Returns the palette that the application has without a theme.
@@ -26,13 +27,15 @@ public:
     /// Returns the font that the application has without a theme.
     const QFont &baseFont() const;
 
-    /// Tells whether no theme has been applied, or all of them were taken back.
+    /// Tells whether no theme has been applied to the application.
     bool isEmpty() const;
 
     /// Registers the fonts "*.ttf" in \a folder with the application.
     void addFonts(const QString &folder);
-    /// Has every font be looked up anew: what was missing when it was asked for may be there now.
-    void forgetFontLookUps() const;
+    /// Does so, and removes all other fonts that were added. A font that was there before, byte for
+    /// byte, is there all the time.
+    void replaceFonts(const QString &folder);
+
     /// Has theme icons looked up in the icon themes below \a folder, of which \a name is current.
     void addIconTheme(const QString &folder, const QString &name);
     /// Has icons that an icon theme lacks looked up in \a folder.
@@ -41,22 +44,17 @@ public:
     void addResourceFiles(const QString &folder);
     /// Appends \a folder to the search paths of the prefix \a prefix.
     void addSearchPath(const QString &prefix, const QString &folder);
-
-    /// Removes whatever was added, and the disabled factors. What the application added itself
-    /// stays.
-    void takeBack();
+    /// Removes whatever was added but for the fonts. What the application added itself stays.
+    /// Whoever adds the images of a theme next does so at once: in between there are none.
+    void takeBackImages();
 
 private:
     explicit ThemeFootprint(QApplication &app);
 
-    QApplication &m_app;
     QPalette m_basePalette;
     QFont m_baseFont;
-    QMap<int, QString> m_fonts; ///< files by the ids that they are registered under
-    QStringList m_resourceFiles;
-    QStringList m_iconThemeFolders;
-    QStringList m_fallbackIconFolders;
-    QMap<QString, QStringList> m_searchPaths;
+    AddedFonts m_fonts;
+    bool m_isEmpty = true;
 };
 
 } // namespace TARN

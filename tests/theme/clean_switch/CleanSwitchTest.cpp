@@ -151,7 +151,7 @@ private Q_SLOTS:
         apply(text("Light"));
         const QVariant expected = ThemeResources::getThemeVar(path);
         QVERIFY(expected.isValid());
-        apply(text("Dark"));
+        apply(text("Strange"));
         int count = 0;
         const auto ask = [&count] {
             ThemeColorHelper::disabled(Qt::red, true);

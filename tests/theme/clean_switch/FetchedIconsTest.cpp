@@ -81,6 +81,33 @@ private Q_SLOTS:
         QCOMPARE(centre(box.iconPixmap()), QColor(Qt::blue));
     }
 
+    void aMessageFromBeforeTheFirstThemeShowsTheIconsOfTheTheme_data()
+    {
+        QTest::addColumn<bool>("native");
+        QTest::newRow("the theme's style") << false;
+        QTest::newRow("the native style") << true;
+    }
+
+    void aMessageFromBeforeTheFirstThemeShowsTheIconsOfTheTheme()
+    {
+        QFETCH(bool, native);
+        if (native) {
+            qputenv("TARN_USE_NATIVE_STYLE", "1");
+        }
+        qApp->setProperty("appLiveThemeSwitch", true);
+        for (const auto icon : {QMessageBox::Information, QMessageBox::Warning,
+                                QMessageBox::Critical, QMessageBox::Question}) {
+            QMessageBox box(icon, text("Title"), text("Text"));
+            box.show();
+            for (const char *theme : {"Dark", "Light"}) {
+                applyShipped(theme);
+                const QMessageBox late(icon, text("Title"), text("Text"));
+                QVERIFY(!box.iconPixmap().isNull());
+                QCOMPARE(box.iconPixmap().toImage(), late.iconPixmap().toImage());
+            }
+        }
+    }
+
     /// Widgets that hear of a new style are not told of it once more.
     void widgetsAreNotToldOfTheStyleAgain()
     {

@@ -1,4 +1,4 @@
-#include "theme/DocumentLinks.h"
+#include "theme/following/DocumentLinks.h"
 
 #include <QtGui/QTextBlock>
 #include <QtGui/QTextCursor>
@@ -30,6 +30,8 @@ QVector<Link> linksOf(const QTextDocument &document, const QBrush &brush)
     return links;
 }
 
+} // namespace
+
 void repaintLinks(QTextDocument &document, const QBrush &former, const QBrush &next)
 {
     const QVector<Link> links = linksOf(document, former);
@@ -49,8 +51,6 @@ void repaintLinks(QTextDocument &document, const QBrush &former, const QBrush &n
     cursor.endEditBlock();
     document.setModified(modified);
 }
-
-} // namespace
 
 void repaintDocumentLinks(const QBrush &former, const QBrush &next)
 {
