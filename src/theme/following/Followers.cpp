@@ -16,12 +16,15 @@ Followers::Followers()
 void Followers::follow(bool styleIsNew) const
 {
     m_colors.follow();
+    m_sceneTexts.follow();
     fitCloseButtons();
     fetchExtensionIcons();
     if (!styleIsNew) {
         fetchIcons();
     }
     repaintDocumentLinks(m_formerLink, QGuiApplication::palette().link());
+    m_subWindows.follow();
+    m_menus.follow();
 }
 
 } // namespace TARN

@@ -1,6 +1,9 @@
 #pragma once
 
+#include "theme/following/OpenMenus.h"
 #include "theme/following/PlainColors.h"
+#include "theme/following/SceneTexts.h"
+#include "theme/following/SubWindows.h"
 
 #include <QtGui/QBrush>
 
@@ -20,6 +23,9 @@ public:
 private:
     QBrush m_formerLink;
     PlainColors m_colors;
+    SceneTexts m_sceneTexts;
+    SubWindows m_subWindows;
+    OpenMenus m_menus;
 };
 
 } // namespace TARN

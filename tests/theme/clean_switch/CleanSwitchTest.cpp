@@ -1,3 +1,4 @@
+#include "FreshRendering.h"
 #include "MixedWindow.h"
 
 #include <resources/ThemeColorHelper.h>
@@ -5,7 +6,6 @@
 #include <style/BaseStyle.h>
 #include <theme/BaseTheme.h>
 
-#include <QtCore/QProcess>
 #include <QtGui/QFontDatabase>
 #include <QtTest/QtTest>
 #include <QtWidgets/QApplication>
@@ -84,26 +84,9 @@ private:
     void apply(const QString &name) const { BaseTheme(directory(name)).customize(qApp); }
 
     /// Returns how the window looks in a process that has only seen the theme \a name.
-    QImage freshRendering(const QString &name) const
+    QImage freshWindow(const QString &name) const
     {
-        const QString file = m_repository.path(name + text(".png"));
-        QProcess renderer;
-        renderer.start(text(MOX_RENDERER), {directory(name), file});
-        if (!renderer.waitForFinished(60000) || renderer.exitCode() != 0) {
-            qWarning("The renderer failed: %s", renderer.readAllStandardError().constData());
-        }
-        return QImage(file).convertToFormat(QImage::Format_RGB32);
-    }
-
-    /// Compares two renderings of the theme \a name, and saves them when they differ.
-    static bool areEqual(const QImage &actual, const QImage &expected, const QString &name)
-    {
-        const bool equal = !expected.isNull() && actual == expected;
-        if (!equal) {
-            actual.save(text("clean-switch-%1-actual.png").arg(name));
-            expected.save(text("clean-switch-%1-expected.png").arg(name));
-        }
-        return equal;
+        return freshRendering(text("mixed"), directory(name));
     }
 
 private Q_SLOTS:
@@ -140,7 +123,7 @@ private Q_SLOTS:
         render(*window);
         for (const QString &name : themes) {
             apply(name);
-            QVERIFY2(areEqual(render(*window), freshRendering(name), name), qPrintable(name));
+            QVERIFY2(areEqual(render(*window), freshWindow(name), name), qPrintable(name));
         }
     }
 
@@ -167,15 +150,15 @@ private Q_SLOTS:
 
     void themesDiffer()
     {
-        QVERIFY(freshRendering(text("Dark")) != freshRendering(text("Light")));
-        QVERIFY(freshRendering(text("Dark")) != freshRendering(text("Strange")));
-        QVERIFY(freshRendering(text("Bare")) != freshRendering(text("Strange")));
+        QVERIFY(freshWindow(text("Dark")) != freshWindow(text("Light")));
+        QVERIFY(freshWindow(text("Dark")) != freshWindow(text("Strange")));
+        QVERIFY(freshWindow(text("Bare")) != freshWindow(text("Strange")));
     }
 
     void hundredSwitchesLeaveNothingBehind()
     {
         const QStringList themes{text("Dark"), text("Light")};
-        const QVector<QImage> expected{freshRendering(themes[0]), freshRendering(themes[1])};
+        const QVector<QImage> expected{freshWindow(themes[0]), freshWindow(themes[1])};
         apply(themes[0]);
         const std::unique_ptr<QWidget> window = createMixedWindow();
         QVector<InstalledPaths> paths(2);
@@ -279,7 +262,7 @@ private Q_SLOTS:
         QCOMPARE(QDir::searchPaths(text("icons")).size(), 2);
         QCOMPARE(QIcon::fallbackSearchPaths().count(text(":/icons")), 1);
         const std::unique_ptr<QWidget> window = createMixedWindow();
-        QVERIFY(areEqual(render(*window), freshRendering(text("Light")), text("Light")));
+        QVERIFY(areEqual(render(*window), freshWindow(text("Light")), text("Light")));
     }
 
     void themeThatCannotBeReadChangesNothing()
