@@ -38,6 +38,21 @@ private Q_SLOTS:
         }
     }
 
+    void startsWithTheFontThatItIsGiven()
+    {
+        const QFont font(QStringLiteral("Serif"), 23);
+        ThemeConfiguration configuration;
+        configuration.font =
+            "<Family>Sans</Family><SmallSize>8</SmallSize><BaseSize>9pt</BaseSize>";
+        const QString path = m_files.write(QStringLiteral("config.xml"), configuration.toXml());
+        const ThemeFont read = ThemeConfigurationReader(path, font).getFont();
+        QCOMPARE(read.getFont(ThemeFont::Small).pointSize(), 8);
+        for (const auto size : {ThemeFont::Base, ThemeFont::Medium, ThemeFont::Large}) {
+            QCOMPARE(ThemeFont(font).getFont(size), font);
+            QCOMPARE(read.getFont(size), font);
+        }
+    }
+
     void sizesAreApart()
     {
         ThemeFont font;
