@@ -240,7 +240,7 @@ void ButtonBrushChooser::chooseForInput()
     const auto *edit = qobject_cast<const QDateTimeEdit *>(m_widget);
     if (edit && !qobject_cast<const QTimeEdit *>(m_widget) && edit->calendarPopup()) {
         chooseForCalendarEdit(*edit);
-    } else if (qobject_cast<const QAbstractSpinBox *>(m_widget)) {
+    } else if (isLike<QAbstractSpinBox>(m_widget)) {
         chooseForSpinBox();
     } else if (const auto *comboBox = qobject_cast<const QComboBox *>(m_widget)) {
         chooseForComboBox(*comboBox);
@@ -282,8 +282,7 @@ void ButtonBrushChooser::chooseForComboBox(const QComboBox &comboBox)
 
 void ButtonBrushChooser::chooseForCommandLink()
 {
-    if (!hasFeature(QStyleOptionButton::DefaultButton) ||
-        !qobject_cast<const QCommandLinkButton *>(m_widget)) {
+    if (!hasFeature(QStyleOptionButton::DefaultButton) || !isLike<QCommandLinkButton>(m_widget)) {
         return;
     }
     if (has(QStyle::State_Enabled) && !has(QStyle::State_On) && !has(QStyle::State_MouseOver) &&
@@ -294,7 +293,7 @@ void ButtonBrushChooser::chooseForCommandLink()
 
 void ButtonBrushChooser::chooseForTabBarButton()
 {
-    if (qobject_cast<const QTabBar *>(m_parent)) {
+    if (isLike<QTabBar>(m_parent)) {
         m_brushes.border = cardBorderBrush();
     }
 }

@@ -7,15 +7,18 @@
 #include "style/families/DockWidgets.h"
 
 #include <QtGui/QPainter>
+#include <QtWidgets/QAbstractScrollArea>
 #include <QtWidgets/QDockWidget>
 #include <QtWidgets/QMainWindow>
-#include <QtWidgets/QScrollArea>
 
 namespace TARN::Windows {
 
 void polishScrollArea(QWidget &widget)
 {
-    static_cast<QScrollArea &>(widget).viewport()->setBackgroundRole(QPalette::Light);
+    // What only says that it is a scroll area may have no viewport.
+    if (const auto *area = qobject_cast<QAbstractScrollArea *>(&widget)) {
+        area->viewport()->setBackgroundRole(QPalette::Light);
+    }
 }
 
 void polishMainWindow(QWidget &widget)

@@ -45,7 +45,7 @@ void allowShadow(QWidget &widget)
 /// The widgets that a rule is for.
 struct Bearers
 {
-    bool (*areOfClass)(const QWidget &widget) = nullptr;
+    bool (*areSo)(const QObject *widget) = nullptr;
     const char *className = nullptr;
     std::optional<Property> mark;
 };
@@ -53,19 +53,26 @@ struct Bearers
 constexpr Bearers allWidgets;
 
 template <typename Widget>
-bool isOfClass(const QWidget &widget)
+bool isOfClass(const QObject *widget)
 {
-    return qobject_cast<const Widget *>(&widget);
+    return qobject_cast<const Widget *>(widget);
 }
 
-/// Those of a class of which the rule uses more than its name.
+/// Those of a class of which the rule uses what only it has.
 template <typename Widget>
 constexpr Bearers ofClass()
 {
     return {isOfClass<Widget>, nullptr, {}};
 }
 
-/// Those that say that they are of a class.
+/// Those of a class, and those that say so.
+template <typename Widget>
+constexpr Bearers like()
+{
+    return {isLike<Widget>, nullptr, {}};
+}
+
+/// Those that say that they are of a class, whatever they are.
 constexpr Bearers named(const char *className)
 {
     return {nullptr, className, {}};
@@ -88,17 +95,17 @@ struct Rule
 // In the order in which they apply: later rules see what earlier ones did.
 constexpr Rule rules[] = {
     {ofClass<QProgressBar>(), ProgressBars::polish},
-    {ofClass<QAbstractItemView>(), ItemViews::polishPalette},
-    {ofClass<QAbstractItemView>(), ItemViews::polishItems},
+    {like<QAbstractItemView>(), ItemViews::polishPalette},
+    {like<QAbstractItemView>(), ItemViews::polishItems},
     {named("QLabel"), Labels::polishDisabledText},
-    {ofClass<QTabBar>(), hearHovering},
+    {like<QTabBar>(), hearHovering},
     {named("QGroupBox"), hearHovering},
     {named("QTabWidget"), Tabs::polishFont},
     {named("QTabBar"), Tabs::polishFont},
     {named("QStatusBar"), StatusBars::polish},
-    {ofClass<QScrollArea>(), Windows::polishScrollArea},
-    {ofClass<QMainWindow>(), Windows::polishMainWindow},
-    {ofClass<QDockWidget>(), DockWidgets::polish},
+    {like<QScrollArea>(), Windows::polishScrollArea},
+    {like<QMainWindow>(), Windows::polishMainWindow},
+    {like<QDockWidget>(), DockWidgets::polish},
     {marked(Property::CardHeader), Cards::polishPart},
     {marked(Property::CardContents), Cards::polishPart},
     {marked(Property::CardFooter), Cards::polishPart},
@@ -113,7 +120,7 @@ constexpr Rule rules[] = {
     {marked(Property::PillFont), Components::polishPill},
     {named("TARN::PeriodicTable::PeriodicTableView"), Components::polishPeriodicTable},
     {named("TARN::Components::RangeSlider"), Sliders::polishRangeSlider},
-    {ofClass<QCommandLinkButton>(), nullptr, Buttons::polishCommandLink},
+    {like<QCommandLinkButton>(), nullptr, Buttons::polishCommandLink},
     {allWidgets, allowShadow},
     {named("QToolBoxButton"), ToolBoxes::polishButton},
     {named("QToolBox"), ToolBoxes::polishToolBox},
@@ -125,8 +132,8 @@ constexpr Rule rules[] = {
 bool concerns(const Rule &rule, const QWidget &widget)
 {
     const Bearers &bearers = rule.bearers;
-    if (bearers.areOfClass) {
-        return bearers.areOfClass(widget);
+    if (bearers.areSo) {
+        return bearers.areSo(&widget);
     }
     if (bearers.className) {
         return isA(&widget, bearers.className);
@@ -147,7 +154,7 @@ void polishWidget(QStyle &style, QWidget &widget)
 
 void unpolishWidget(QWidget &widget)
 {
-    if (isOfClass<QTabBar>(widget) || isA(&widget, "QGroupBox")) {
+    if (isLike<QTabBar>(&widget) || isA(&widget, "QGroupBox")) {
         widget.setAttribute(Qt::WA_Hover, false);
     }
 }

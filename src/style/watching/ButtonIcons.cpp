@@ -8,7 +8,6 @@
 
 #include <QtGui/QPalette>
 #include <QtWidgets/QAction>
-#include <QtWidgets/QCommandLinkButton>
 #include <QtWidgets/QToolButton>
 
 namespace TARN {
@@ -71,7 +70,7 @@ QBrush hoveredForeground()
                          {CheckState::Unchecked, Interaction::Hover}, BrushField::Foreground, true);
 }
 
-void tintCommandLink(QCommandLinkButton &button)
+void tintCommandLink(QAbstractButton &button)
 {
     if (button.icon().isNull()) {
         return;

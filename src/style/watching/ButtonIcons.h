@@ -1,6 +1,6 @@
 #pragma once
 
-class QCommandLinkButton;
+class QAbstractButton;
 class QObject;
 class QToolButton;
 class QWidget;
@@ -15,6 +15,6 @@ void tintOnPaint(QObject &filter, QWidget &widget);
 void tintClearButton(QToolButton &button);
 
 /// Gives the command link its own icon, in the colour of its state.
-void tintCommandLink(QCommandLinkButton &button);
+void tintCommandLink(QAbstractButton &button);
 
 } // namespace TARN

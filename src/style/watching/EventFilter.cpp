@@ -17,8 +17,11 @@ void tintIcon(QWidget &widget)
     auto *toolButton = qobject_cast<QToolButton *>(&widget);
     if (toolButton && isA(toolButton, "QLineEditIconButton")) {
         tintClearButton(*toolButton);
-    } else if (auto *commandLink = qobject_cast<QCommandLinkButton *>(&widget)) {
-        tintCommandLink(*commandLink);
+        return;
+    }
+    auto *button = qobject_cast<QAbstractButton *>(&widget);
+    if (button && isLike<QCommandLinkButton>(button)) {
+        tintCommandLink(*button);
     }
 }
 

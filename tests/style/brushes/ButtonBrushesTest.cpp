@@ -10,6 +10,7 @@
 #include <QtWidgets/QTabBar>
 #include <QtWidgets/QToolButton>
 
+#include <support/NamedWidget.h>
 #include <support/Text.h>
 
 namespace {
@@ -300,6 +301,16 @@ private Q_SLOTS:
         QCOMPARE(border(plain(enabled), &button), text("CardBorderBrush"));
         QCOMPARE(border(plain(QStyle::State_None), &button), text("CardBorderBrushDisabled"));
         QCOMPARE(background(plain(enabled), &button), text("ButtonUncheckedBackgroundBrush"));
+    }
+
+    void lookalikes()
+    {
+        const Named<QPushButton> link("QCommandLinkButton");
+        QCOMPARE(foreground(pushButton(active, QStyleOptionButton::DefaultButton), &link),
+                 text("none"));
+        NamedWidget bar("QTabBar");
+        const QToolButton button(&bar);
+        QCOMPARE(border(plain(enabled), &button), text("CardBorderBrush"));
     }
 
     void workflowButtons()

@@ -11,6 +11,7 @@
 #include <QtWidgets/QSpinBox>
 #include <QtWidgets/QStyleOption>
 
+#include <support/NamedWidget.h>
 #include <support/Text.h>
 
 namespace {
@@ -70,6 +71,14 @@ private Q_SLOTS:
         QCOMPARE(background(plain(hovered), widget), resting);
         widget->setEnabled(false);
         QCOMPARE(background(plain(hovered), widget), resting + text("Disabled"));
+    }
+
+    void spinBoxKnownByNameOnly()
+    {
+        Named<QWidget> box("QAbstractSpinBox");
+        const QString resting = text("InputUncheckedBackgroundBrush");
+        QCOMPARE(all(plain(hovered), &box),
+                 QStringList({resting, resting, text("ButtonUncheckedHoverForegroundBrush")}));
     }
 
     void comboBoxes()

@@ -10,6 +10,19 @@
 
 using TARN::BaseStyle;
 
+namespace {
+
+/// Tells whether nothing of a lookalike differs from what polishing makes of any widget.
+bool isLikeAnyOther(const QWidget &lookalike, const QWidget &other)
+{
+    return lookalike.dynamicPropertyNames() == other.dynamicPropertyNames() &&
+           lookalike.palette() == other.palette() && lookalike.font() == other.font() &&
+           lookalike.testAttribute(Qt::WA_Hover) == other.testAttribute(Qt::WA_Hover) &&
+           lookalike.minimumSize() == other.minimumSize();
+}
+
+} // namespace
+
 /// What polishing does to the toolkit's own widgets.
 class PolishTest : public QObject
 {
@@ -63,6 +76,107 @@ private Q_SLOTS:
             m_style.unpolish(widget);
             QVERIFY(!widget->testAttribute(Qt::WA_Hover));
         }
+    }
+
+    void itemViewKnownByNameOnly()
+    {
+        NamedWidget view("QAbstractItemView");
+        m_style.polish(&view);
+        QCOMPARE(m_theme.nameOf(view.palette().brush(QPalette::Active, QPalette::Base)),
+                 text("ItemViewBackgroundBrush"));
+        QCOMPARE(m_theme.nameOf(view.palette().brush(QPalette::Disabled, QPalette::Base)),
+                 text("ItemViewBackgroundBrushDisabled"));
+        QVERIFY(view.hasMouseTracking());
+        for (const char *name :
+             {"highlightItemsOnMouseHover", "drawItemsSeparators", "hideFocusRect"}) {
+            QVERIFY2(view.property(name).toBool(), name);
+        }
+    }
+
+    void tabBarKnownByNameOnly()
+    {
+        NamedWidget tabBar("QTabBar");
+        m_style.polish(&tabBar);
+        QVERIFY(tabBar.testAttribute(Qt::WA_Hover));
+        QCOMPARE(UniqueTheme::sizeOf(tabBar.font()), text("medium"));
+        m_style.unpolish(&tabBar);
+        QVERIFY(!tabBar.testAttribute(Qt::WA_Hover));
+    }
+
+    void windowsKnownByNameOnly()
+    {
+        QWidget parent;
+        for (const char *className : {"QMainWindow", "QDockWidget"}) {
+            const bool isDock = qstrcmp(className, "QDockWidget") == 0;
+            for (QWidget *owner : {static_cast<QWidget *>(nullptr), &parent}) {
+                NamedWidget window(className);
+                window.setParent(owner);
+                m_style.polish(&window);
+                QCOMPARE(window.testAttribute(Qt::WA_StyledBackground), isDock || !owner);
+            }
+        }
+    }
+
+    void viewportOfAScrollAreaKnownByNameOnly()
+    {
+        Named<QAbstractScrollArea> area("QScrollArea");
+        QVERIFY(area.viewport()->backgroundRole() != QPalette::Light);
+        m_style.polish(&area);
+        QCOMPARE(area.viewport()->backgroundRole(), QPalette::Light);
+    }
+
+    // What only the real ones have can't be given to them.
+    void lookalikesWithoutTheMeansAreLeft_data()
+    {
+        QTest::addColumn<QByteArray>("className");
+        for (const char *name : {"QProgressBar", "QScrollArea", "QComboBox"}) {
+            QTest::newRow(name) << QByteArray(name);
+        }
+    }
+
+    void lookalikesWithoutTheMeansAreLeft()
+    {
+        QFETCH(QByteArray, className);
+        NamedWidget lookalike(className);
+        QWidget other;
+        m_style.polish(&lookalike);
+        m_style.polish(&other);
+        QVERIFY(isLikeAnyOther(lookalike, other));
+    }
+
+    void whatIsSaidAddsToWhatIs()
+    {
+        Named<QListView> view("QTabBar");
+        m_style.polish(&view);
+        QVERIFY(view.property("drawChildIndicatorInListView").toBool());
+        QCOMPARE(m_theme.nameOf(view.palette().brush(QPalette::Active, QPalette::Base)),
+                 text("ItemViewBackgroundBrush"));
+        QVERIFY(view.testAttribute(Qt::WA_Hover));
+        QCOMPARE(UniqueTheme::sizeOf(view.font()), text("medium"));
+
+        Named<QProgressBar> bar("QStatusBar");
+        m_style.polish(&bar);
+        QCOMPARE(bar.textDirection(), QProgressBar::BottomToTop);
+        QCOMPARE(bar.minimumHeight(), 34);
+    }
+
+    // Rules of widgets that are of a class don't ask what these say; rules of widgets that say so
+    // do.
+    void whatIsDeniedStaysTrue()
+    {
+        Nameless<QTabBar> tabBar;
+        tabBar.setAttribute(Qt::WA_Hover, false);
+        m_style.polish(&tabBar);
+        QVERIFY(tabBar.testAttribute(Qt::WA_Hover));
+        QVERIFY(!tabBar.property("_q_styleSheetWidgetFont").isValid());
+
+        Nameless<QProgressBar> bar;
+        m_style.polish(&bar);
+        QCOMPARE(bar.textDirection(), QProgressBar::BottomToTop);
+
+        Nameless<QTreeView> view;
+        m_style.polish(&view);
+        QVERIFY(view.property("highlightItemsOnMouseHover").toBool());
     }
 
     void unpolishTakesNothingElseBack()

@@ -8,6 +8,7 @@
 #include <QtWidgets/QToolButton>
 #include <QtWidgets/QVBoxLayout>
 
+#include <support/NamedWidget.h>
 #include <support/PaintCounter.h>
 #include <support/Text.h>
 #include <support/themes/IconTheme.h>
@@ -175,6 +176,19 @@ private Q_SLOTS:
         QCOMPARE(colorOf(button.icon()), expected);
         QCOMPARE(button.property("originalIcon").userType(), int(QMetaType::QIcon));
         QCOMPARE(colorOf(button.property("originalIcon").value<QIcon>()), referenceForeground);
+    }
+
+    void commandLinkKnownByNameOnly()
+    {
+        Named<QPushButton> button("QCommandLinkButton");
+        button.setIcon(QIcon::fromTheme(text("star")));
+        button.grab();
+        QCOMPARE(colorOf(button.icon()), QColor(4, 5, 6));
+
+        // What is no button has no icon.
+        NamedWidget widget("QCommandLinkButton");
+        widget.grab();
+        QVERIFY(!widget.property("originalIcon").isValid());
     }
 
     void commandLinkIsTintedFromItsFirstIcon()
