@@ -78,10 +78,12 @@ MOX_COMMON_UTILS_EXPORT int getPerceivedBrightness(const QColor &color);
 /// pictures.
 ///
 /// What was rendered is kept, within a limit for all icons together, until the application's style
-/// or icon theme changes: painting it again at the same size draws a pixmap. Asking for the same
-/// tint of the same icon again gives the same icon. An icon never renders more than 4096 pixels a
-/// side. A null \a icon gives a null icon; a \a to without a brush (Qt::NoBrush), or a \a from
-/// that is not one colour (no brush, a gradient or a texture), gives \a icon unchanged.
+/// or icon theme changes: painting it again at the same size draws a pixmap. An icon whose engine
+/// is not one of Qt's may show something else by now: it is asked for its picture each time, which
+/// is tinted again when it has changed. Asking for the same tint of the same icon again gives the
+/// same icon. An icon never renders more than 4096 pixels a side. A null \a icon gives a null icon;
+/// a \a to without a brush (Qt::NoBrush), or a \a from that is not one colour (no brush, a gradient
+/// or a texture), gives \a icon unchanged.
 MOX_COMMON_UTILS_EXPORT QIcon getModifiedIconWithForegroundBrush(QIcon icon, QBrush from, QBrush to,
                                                                  bool disabled);
 

@@ -20,6 +20,17 @@ QStyle *applicationStyle()
                : nullptr;
 }
 
+qint64 bytesOf(const QPixmap &picture)
+{
+    return qint64(picture.width()) * picture.height() * picture.depth() / 8;
+}
+
+/// Engines that paint hand out a new pixmap each time, and so does the toolkit at high resolutions.
+bool isSamePicture(const QPixmap &a, const QPixmap &b)
+{
+    return a.cacheKey() == b.cacheKey() || (a.size() == b.size() && a.toImage() == b.toImage());
+}
+
 } // namespace
 
 bool operator==(const PictureKey &a, const PictureKey &b)
@@ -34,6 +45,11 @@ uint qHash(const PictureKey &key, uint seed)
     const quint64 look = quint64(key.mode) << 1 | quint64(key.state);
     return ::qHash(key.engine * 31 + look, seed) ^ ::qHash(size, seed) ^
            ::qHash(quint64(key.palette) + quint64(key.scale * 64), seed);
+}
+
+bool operator==(const Originals &a, const Originals &b)
+{
+    return isSamePicture(a.own, b.own) && isSamePicture(a.normal, b.normal);
 }
 
 bool operator==(const TintKey &a, const TintKey &b)
@@ -69,14 +85,14 @@ TintedIconCache &TintedIconCache::current()
     return cache;
 }
 
-void TintedIconCache::keepPicture(const PictureKey &key, const QPixmap &picture)
+void TintedIconCache::keepPicture(const PictureKey &key, const KeptPicture &picture)
 {
     // Even a null picture takes up about this much.
     constexpr qint64 overhead = 256;
-    const qint64 bytes =
-        overhead + qint64(picture.width()) * picture.height() * picture.depth() / 8;
+    const qint64 bytes = overhead + bytesOf(picture.picture) + bytesOf(picture.originals.own) +
+                         bytesOf(picture.originals.normal);
     // A picture that is larger than the whole limit is kept alone.
-    m_pictures.insert(key, new QPixmap(picture), int(qMin<qint64>(bytes, pictureBytes)));
+    m_pictures.insert(key, new KeptPicture(picture), int(qMin<qint64>(bytes, pictureBytes)));
 }
 
 void TintedIconCache::keepActualSize(const PictureKey &key, const QSize &size)

@@ -26,6 +26,22 @@ struct PictureKey
     qint64 palette;
 };
 
+/// What a source that may change shows now; empty for any other, which need not be asked.
+struct Originals
+{
+    /// In the mode that is asked for.
+    QPixmap own;
+    /// In the normal mode, of which the look of another mode may be made.
+    QPixmap normal;
+};
+
+/// A picture, and what it was made of.
+struct KeptPicture
+{
+    QPixmap picture;
+    Originals originals;
+};
+
 /// Names a tinted icon by what it is made of.
 struct TintKey
 {
@@ -47,8 +63,8 @@ public:
 
     /// Returns the kept picture, or a null pointer. The cache owns it; it stays valid until the
     /// cache is used again.
-    const QPixmap *picture(const PictureKey &key) const { return m_pictures.object(key); }
-    void keepPicture(const PictureKey &key, const QPixmap &picture);
+    const KeptPicture *picture(const PictureKey &key) const { return m_pictures.object(key); }
+    void keepPicture(const PictureKey &key, const KeptPicture &picture);
 
     /// Returns the kept actual size, or a null pointer. The cache owns it, as above.
     const QSize *actualSize(const PictureKey &key) const { return m_actualSizes.object(key); }
@@ -66,7 +82,7 @@ private:
     void dropOutdated();
     void clear();
 
-    QCache<PictureKey, QPixmap> m_pictures;
+    QCache<PictureKey, KeptPicture> m_pictures;
     QCache<PictureKey, QSize> m_actualSizes;
     QCache<TintKey, QIcon> m_icons;
     QPointer<QCoreApplication> m_application;
@@ -76,6 +92,8 @@ private:
 
 bool operator==(const PictureKey &a, const PictureKey &b);
 uint qHash(const PictureKey &key, uint seed);
+/// Tells whether both are the same to the pixel.
+bool operator==(const Originals &a, const Originals &b);
 bool operator==(const TintKey &a, const TintKey &b);
 uint qHash(const TintKey &key, uint seed);
 

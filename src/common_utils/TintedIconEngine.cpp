@@ -2,6 +2,7 @@
 
 #include "common_utils/Helpers.h"
 #include "common_utils/ReplacedColor.h"
+#include "common_utils/SteadyIcon.h"
 #include "common_utils/TintedIconCache.h"
 
 #include <QtCore/QDataStream>
@@ -114,7 +115,8 @@ QSize TintedIconEngine::actualSize(const QSize &size, QIcon::Mode mode, QIcon::S
         return {};
     }
     const PictureKey key{m_serial, size, 1, mode, state, 0};
-    if (const QSize *kept = TintedIconCache::current().actualSize(key)) {
+    const QSize *kept = TintedIconCache::current().actualSize(key);
+    if (kept && isSteady()) {
         return *kept;
     }
     const PixelSizes pixelSizes;
@@ -146,6 +148,7 @@ void TintedIconEngine::addFile(const QString &fileName, const QSize &size, QIcon
 void TintedIconEngine::sourceChanged()
 {
     m_serial = nextSerial();
+    m_isSteady.reset();
     m_derived = {};
 }
 
@@ -163,6 +166,10 @@ QString TintedIconEngine::key() const
 /// its file name, its size, its mode and its state.
 bool TintedIconEngine::write(QDataStream &stream) const
 {
+    if (EngineProbe *probe = EngineProbe::of(stream)) {
+        probe->answer(isSteady());
+        return true;
+    }
     QList<QSize> sizes = m_source.availableSizes();
     if (sizes.isEmpty()) {
         sizes = {{16, 16}, {24, 24}, {32, 32}, {64, 64}};
@@ -215,15 +222,41 @@ QPixmap TintedIconEngine::picture(const Request &request) const
         request.mode == QIcon::Normal ? 0 : QGuiApplication::palette().cacheKey();
     const PictureKey key{m_serial,     request.size,  request.scale,
                          request.mode, request.state, palette};
-    if (const QPixmap *kept = TintedIconCache::current().picture(key)) {
-        return *kept;
+    const KeptPicture *kept = TintedIconCache::current().picture(key);
+    if (kept && isSteady()) {
+        return kept->picture;
     }
-    QPixmap result = rendered(
-        {request.size.boundedTo(largestPicture), request.scale, request.mode, request.state});
+    const Request bounded{request.size.boundedTo(largestPicture), request.scale, request.mode,
+                          request.state};
+    const Originals current = isKnownToChange() ? originals(bounded) : Originals();
+    // Another tinted icon may have been asked meanwhile.
+    kept = TintedIconCache::current().picture(key);
+    if (kept && kept->originals == current) {
+        return kept->picture;
+    }
+    QPixmap result = rendered(bounded);
     // The icon sets this ratio on what it hands out, which copies a pixmap that has another one.
     result.setDevicePixelRatio(request.scale);
-    TintedIconCache::current().keepPicture(key, result);
+    TintedIconCache::current().keepPicture(key, {result, current});
     return result;
+}
+
+/// Finding that out takes about as long as rendering, and is left until it is of use.
+bool TintedIconEngine::isSteady() const
+{
+    if (!m_isSteady) {
+        m_isSteady = isSteadyIcon(m_source);
+    }
+    return *m_isSteady;
+}
+
+Originals TintedIconEngine::originals(const Request &request) const
+{
+    const auto pictureIn = [&](QIcon::Mode mode) {
+        return sourcePicture(m_source, request.size, request.scale, mode, request.state);
+    };
+    const bool isNormal = request.mode == QIcon::Normal;
+    return {pictureIn(request.mode), isNormal ? QPixmap() : pictureIn(QIcon::Normal)};
 }
 
 QPixmap TintedIconEngine::rendered(const Request &request) const
@@ -247,7 +280,7 @@ bool TintedIconEngine::isDerived(const Request &request) const
         return true;
     }
     std::optional<bool> &known = m_derived[size_t(request.mode) * 2 + size_t(request.state)];
-    if (!known) {
+    if (!known || isKnownToChange()) {
         known = findOutIfDerived(request);
     }
     return *known;

@@ -9,13 +9,16 @@
 
 namespace TARN {
 
+struct Originals;
+
 /// Shows another icon with one of its colours replaced by a brush.
 ///
 /// The other icon is rendered at the very size that is asked for. Where it has no picture of its
 /// own for a mode, its normal picture is tinted before the application's style gives it the look
 /// of that mode.
 ///
-/// What is rendered goes through the TintedIconCache.
+/// What is rendered goes through the TintedIconCache. An icon of an application's own engine may
+/// show something else by now: it is asked each time, and tinted anew when its picture has changed.
 class TintedIconEngine : public QIconEngine
 {
 public:
@@ -55,6 +58,9 @@ private:
     };
 
     QPixmap picture(const Request &request) const;
+    bool isSteady() const;
+    bool isKnownToChange() const { return m_isSteady && !*m_isSteady; }
+    Originals originals(const Request &request) const;
     QPixmap rendered(const Request &request) const;
     bool isDerived(const Request &request) const;
     bool findOutIfDerived(const Request &request) const;
@@ -65,6 +71,8 @@ private:
     QBrush m_to;
     bool m_disabled;
     quint64 m_serial;
+    /// Whether the source always shows the same; no value for what was not found out yet.
+    mutable std::optional<bool> m_isSteady;
     /// Whether the source derives the picture of a mode and state; no value for what was not
     /// asked for yet.
     mutable std::array<std::optional<bool>, 8> m_derived;

@@ -94,3 +94,24 @@ QSize CountingEngine::actualSize(const QSize &size, QIcon::Mode /*mode*/, QIcon:
     ++*m_count;
     return size;
 }
+
+void BadgeEngine::paint(QPainter *painter, const QRect &rect, QIcon::Mode mode,
+                        QIcon::State /*state*/)
+{
+    ++m_badge->paintings;
+    const bool isOwn = mode == QIcon::Disabled && m_badge->disabledColor.isValid();
+    painter->fillRect(rect, isOwn ? m_badge->disabledColor : m_badge->color);
+}
+
+QPixmap BadgeEngine::pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state)
+{
+    QPixmap pixmap = plainPixmap(size / m_badge->divisor, Qt::transparent);
+    QPainter painter(&pixmap);
+    paint(&painter, pixmap.rect(), mode, state);
+    return pixmap;
+}
+
+QSize BadgeEngine::actualSize(const QSize &size, QIcon::Mode /*mode*/, QIcon::State /*state*/)
+{
+    return size / m_badge->divisor;
+}

@@ -36,7 +36,8 @@ int largestDifference(const QImage &a, const QImage &b);
 /// An opaque picture of one colour.
 QPixmap plainPixmap(const QSize &size, const QColor &color);
 
-/// Paints itself in the test foreground, and counts how often it is asked to.
+/// Paints itself in the test foreground, and counts how often it is asked to. It calls itself one
+/// of the toolkit's engines, which always show the same.
 class CountingEngine : public QIconEngine
 {
 public:
@@ -49,7 +50,37 @@ public:
     QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state) override;
     QSize actualSize(const QSize &size, QIcon::Mode mode, QIcon::State state) override;
     QIconEngine *clone() const override { return new CountingEngine(*this); }
+    QString key() const override { return QStringLiteral("QPixmapIconEngine"); }
 
 private:
     int *m_count;
+};
+
+/// What an application's own engine shows at the moment.
+struct Badge
+{
+    QColor color = foreground;
+    /// Of its picture for disabled icons, if it has one.
+    QColor disabledColor;
+    /// How much of the size it takes.
+    int divisor = 1;
+    int paintings = 0;
+};
+
+/// Shows a badge, which may change at any time.
+class BadgeEngine : public QIconEngine
+{
+public:
+    explicit BadgeEngine(Badge *badge)
+        : m_badge(badge)
+    {
+    }
+
+    void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State state) override;
+    QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state) override;
+    QSize actualSize(const QSize &size, QIcon::Mode mode, QIcon::State state) override;
+    QIconEngine *clone() const override { return new BadgeEngine(*this); }
+
+private:
+    Badge *m_badge;
 };
