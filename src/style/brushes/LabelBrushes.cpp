@@ -7,6 +7,8 @@
 #include "style/brushes/ButtonBrushChoice.h"
 #include "style/drawing/Palettes.h"
 
+#include <array>
+
 namespace TARN {
 
 namespace {
@@ -15,6 +17,30 @@ QBrush textBrush(bool enabled)
 {
     const QColor &color = themeColor(ColorName::ForegroundColor, enabled);
     return color.isValid() ? QBrush(color) : QBrush(Qt::NoBrush);
+}
+
+/// The icons that options were given lately in the colour of their text: more than there are
+/// buttons between the bevel and the label of one.
+class GivenIcons
+{
+public:
+    void add(const QIcon &icon) { slot(icon) = icon.cacheKey(); }
+    bool has(const QIcon &icon) { return slot(icon) == icon.cacheKey(); }
+
+private:
+    /// The upper half of an icon's key counts icons.
+    qint64 &slot(const QIcon &icon)
+    {
+        return m_keys[(quint64(icon.cacheKey()) >> 32U) % m_keys.size()];
+    }
+
+    std::array<qint64, 64> m_keys{};
+};
+
+GivenIcons &givenIcons()
+{
+    static GivenIcons icons;
+    return icons;
 }
 
 } // namespace
@@ -48,6 +74,7 @@ void useForeground(ButtonOption &option, const QBrush &brush)
     option.palette = paletteWith(option.palette, QPalette::WindowText, brush);
     if (!option.icon.isNull()) {
         option.icon = ThemeColorHelper::getModifiedIconWithForegroundBrush(option.icon, brush);
+        givenIcons().add(option.icon);
     }
 }
 
@@ -64,5 +91,12 @@ const ButtonOption *preparedForLabel(const QStyleOption *option, const QWidget *
 
 template const QStyleOptionButton *preparedForLabel<QStyleOptionButton>(const QStyleOption *option,
                                                                         const QWidget *widget);
+
+bool isPreparedForLabel(const QStyleOptionButton &option, const QBrush &brush)
+{
+    // An application's own text may have that very brush.
+    return option.palette.isBrushSet(option.palette.currentColorGroup(), QPalette::ButtonText) &&
+           option.palette.buttonText() == brush && givenIcons().has(option.icon);
+}
 
 } // namespace TARN

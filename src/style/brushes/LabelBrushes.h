@@ -4,6 +4,7 @@
 #include <QtGui/QPalette>
 
 class QStyleOption;
+class QStyleOptionButton;
 class QWidget;
 
 /// What the texts and icons of buttons are painted with.
@@ -26,5 +27,8 @@ void useForeground(ButtonOption &option, const QBrush &brush);
 /// option itself that is changed, so that whatever it paints next matches the label.
 template <typename ButtonOption>
 const ButtonOption *preparedForLabel(const QStyleOption *option, const QWidget *widget);
+
+/// Tells whether \a option has been prepared so with \a brush, its icon included.
+bool isPreparedForLabel(const QStyleOptionButton &option, const QBrush &brush);
 
 } // namespace TARN

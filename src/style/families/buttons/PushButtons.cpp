@@ -54,17 +54,10 @@ bool hasFace(const QStyleOptionButton &button, const QWidget *widget)
            has(button, QStyle::State_Active);
 }
 
-/// Tells whether \a option has been given \a brush for its label already, its icon included.
-bool isPrepared(const QStyleOptionButton &option, const QBrush &brush)
-{
-    return option.palette.isBrushSet(option.palette.currentColorGroup(), QPalette::ButtonText) &&
-           option.palette.buttonText() == brush;
-}
-
 QPixmap labelPixmap(const QStyleOptionButton &button, const QBrush &brush, const QWidget *widget)
 {
     const QIcon icon =
-        isPrepared(button, brush)
+        isPreparedForLabel(button, brush)
             ? button.icon
             : ThemeColorHelper::getModifiedIconWithForegroundBrush(button.icon, brush);
     const QIcon::Mode enabledMode =

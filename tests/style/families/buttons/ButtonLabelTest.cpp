@@ -57,6 +57,7 @@ private Q_SLOTS:
     void labelOfRestingOutlineButton_data();
     void labelOfRestingOutlineButton();
     void labelTintsItsIcon();
+    void labelTintsItsIconWhereTheTextHasItsColor();
     void labelPlaces_data();
     void labelPlaces();
     void longLabelKeepsItsIcon();
@@ -147,6 +148,17 @@ void ButtonLabelTest::labelTintsItsIcon()
     QCOMPARE(m_theme.namesIn(control(QStyle::CE_PushButtonLabel, iconOption(hovered), &button)),
              QStringList{tint});
     QVERIFY(m_theme.shows(control(QStyle::CE_PushButton, iconOption(hovered), &button), tint));
+}
+
+/// An application may have given its text the very brush that the theme has for it.
+void ButtonLabelTest::labelTintsItsIconWhereTheTextHasItsColor()
+{
+    const QPushButton button;
+    const QString tint = text("ButtonUncheckedForegroundBrush");
+    QStyleOptionButton option = iconOption(enabled);
+    option.palette.setBrush(QPalette::ButtonText, m_theme.brush(tint));
+    QCOMPARE(m_theme.namesIn(control(QStyle::CE_PushButtonLabel, option, &button)),
+             QStringList{tint});
 }
 
 void ButtonLabelTest::labelPlaces_data()
