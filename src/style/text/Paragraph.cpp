@@ -14,8 +14,9 @@ namespace TARN {
 bool operator==(const ParagraphSetting &a, const ParagraphSetting &b)
 {
     return a.room == b.room && a.alignment == b.alignment && a.elideMode == b.elideMode &&
-           a.direction == b.direction && a.isWrapped == b.isWrapped && a.mnemonic == b.mnemonic &&
-           a.pixelSize == b.pixelSize && a.text == b.text && a.font == b.font;
+           a.direction == b.direction && a.isWrapped == b.isWrapped && a.isLabel == b.isLabel &&
+           a.mnemonic == b.mnemonic && a.pixelSize == b.pixelSize && a.text == b.text &&
+           a.font == b.font;
 }
 
 uint qHash(const ParagraphSetting &setting, uint seed)
@@ -46,6 +47,24 @@ MnemonicText elided(const MnemonicText &label, const QString &visible)
 {
     const int end = label.underlined + 1;
     return {visible, label.text.leftRef(end) == visible.leftRef(end) ? label.underlined : -1};
+}
+
+QString elidedLine(const ParagraphSetting &setting, const QString &line)
+{
+    // The flag takes the text as it is: an item's text has no shorter variants.
+    return QFontMetrics(setting.font)
+        .elidedText(line, setting.elideMode, setting.room.width(), Qt::TextLongestVariant);
+}
+
+/// Returns what is to be laid out of \a label. Of a line of more characters than its room has
+/// pixels that is what there is room for.
+MnemonicText readablePart(const ParagraphSetting &setting, const MnemonicText &label)
+{
+    if (!setting.isLabel || setting.isWrapped || label.text.size() <= setting.room.width() ||
+        label.text.contains(QChar::LineSeparator)) {
+        return label;
+    }
+    return elided(label, elidedLine(setting, label.text));
 }
 
 /// Breaks the text into lines of \a width. A \a height above 0 ends that where the next line, taken
@@ -135,10 +154,7 @@ private:
             }
             line += ellipsis;
         }
-        // The flag takes the text as it is: an item's text has no shorter variants.
-        m_text += QFontMetrics(m_setting.font)
-                      .elidedText(line, m_setting.elideMode, m_setting.room.width(),
-                                  Qt::TextLongestVariant);
+        m_text += elidedLine(m_setting, line);
     }
 
     const ParagraphSetting &m_setting;
@@ -153,6 +169,12 @@ private:
 QRectF inkOf(const QTextLayout &layout)
 {
     QRectF ink = layout.boundingRect();
+    // Finding the glyphs of a text of both directions takes time that grows with its square.
+    constexpr int longestText = 512;
+    if (layout.text().size() > longestText) {
+        constexpr qreal anywhere = 1 << 24;
+        return ink.adjusted(-anywhere, -anywhere, anywhere, anywhere);
+    }
     for (const QGlyphRun &run : layout.glyphRuns()) {
         ink |= run.boundingRect();
     }
@@ -174,7 +196,7 @@ std::shared_ptr<const Paragraph> Paragraph::of(ParagraphSetting setting)
 
 Paragraph::Paragraph(const ParagraphSetting &setting)
 {
-    const MnemonicText label = readMnemonic(setting.text, setting.mnemonic);
+    const MnemonicText label = readablePart(setting, readMnemonic(setting.text, setting.mnemonic));
     m_layout = makeLayout(setting, label);
     // Of a text that is centred in too little height, the beginning is shown.
     const bool isCentred = setting.alignment.testFlag(Qt::AlignVCenter);

@@ -25,6 +25,9 @@ struct ParagraphSetting
     Qt::TextElideMode elideMode = Qt::ElideRight;
     Qt::LayoutDirection direction = Qt::LeftToRight;
     bool isWrapped = false;
+    /// Whether the text is placed by what can be read of it alone, so that one that is far too long
+    /// is elided before it is laid out, in half the time.
+    bool isLabel = false;
     Mnemonic mnemonic = Mnemonic::None;
     /// The size of the font's letters in pixels. It also depends on the resolution that the font is
     /// meant for, which fonts do not compare. Paragraph::of() fills it in.
@@ -57,8 +60,8 @@ public:
     /// Draws the text with the pen of \a painter in the room whose top left corner is \a corner.
     void draw(QPainter &painter, const QPoint &corner) const;
 
-    /// Returns where the text leaves marks, for a room at the origin. A text that is not elided, or
-    /// that is higher than its room, leaves some outside of it.
+    /// Returns where the text may leave marks, for a room at the origin. A text that is not elided,
+    /// or that is higher than its room, leaves some outside of it; and so may any long one.
     const QRectF &ink() const { return m_ink; }
 
     /// Returns what can be read, with its ellipses.

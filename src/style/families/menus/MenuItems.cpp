@@ -314,6 +314,7 @@ void EntryPainter::drawText(const QString &text, const QFont &font, const QRect 
     setting.room = room.size();
     setting.elideMode = Qt::ElideMiddle;
     setting.direction = m_option.direction;
+    setting.isLabel = true;
     setting.mnemonic = mnemonic;
     Paragraph::of(setting)->draw(m_painter, room.topLeft());
 }
