@@ -6,6 +6,7 @@
 #include <QtGui/QFontMetrics>
 #include <QtGui/QGlyphRun>
 #include <QtGui/QPainter>
+#include <QtGui/QRawFont>
 #include <QtGui/QTextLayout>
 #include <QtWidgets/QStyle>
 
@@ -166,6 +167,24 @@ private:
     bool m_isComplete = false;
 };
 
+/// Returns what the glyphs of \a run cover. The rectangle of a run is that of its advances: slanted
+/// letters reach beyond it, and so do marks above capital letters.
+QRectF inkOf(const QGlyphRun &run)
+{
+    // By that much outlines grow on their way to the grid of the pixels.
+    constexpr qreal hinting = 1;
+    const QRawFont font = run.rawFont();
+    const QVector<quint32> glyphs = run.glyphIndexes();
+    const QVector<QPointF> positions = run.positions();
+    QRectF ink = run.boundingRect();
+    for (int i = 0; i < glyphs.size(); ++i) {
+        ink |= font.boundingRect(glyphs[i])
+                   .translated(positions[i])
+                   .adjusted(-hinting, -hinting, hinting, hinting);
+    }
+    return ink;
+}
+
 QRectF inkOf(const QTextLayout &layout)
 {
     QRectF ink = layout.boundingRect();
@@ -176,7 +195,7 @@ QRectF inkOf(const QTextLayout &layout)
         return ink.adjusted(-anywhere, -anywhere, anywhere, anywhere);
     }
     for (const QGlyphRun &run : layout.glyphRuns()) {
-        ink |= run.boundingRect();
+        ink |= inkOf(run);
     }
     return ink;
 }

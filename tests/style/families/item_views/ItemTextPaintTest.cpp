@@ -99,6 +99,31 @@ private Q_SLOTS:
         }
     }
 
+    /// Letters that reach beyond their line: slanted ones, marks above capitals, and such that
+    /// stand on one another.
+    void nothingIsLeftOutsideOfTheItem()
+    {
+        m_recorder.stopAt("PE_PanelItemViewItem");
+        QStyleOptionViewItem option = itemOption(textOf("ÄÖ áf\u0301"));
+        for (qreal size = 6; size < 22; size += 0.25) {
+            for (const qreal spacing : {100.0, 1.0}) {
+                for (const auto capitals : {QFont::MixedCase, QFont::SmallCaps}) {
+                    QFont font(text("DejaVu Serif"));
+                    font.setPointSizeF(size);
+                    font.setItalic(true);
+                    font.setCapitalization(capitals);
+                    font.setLetterSpacing(QFont::PercentageSpacing, spacing);
+                    option.font = font;
+                    option.fontMetrics = QFontMetrics(font);
+                    const int height = option.fontMetrics.height();
+                    option.rect = QRect(10, 20, 100, height);
+                    option.displayAlignment = Qt::AlignRight | Qt::AlignVCenter;
+                    QCOMPARE(picture(option), fusionPicture(option));
+                }
+            }
+        }
+    }
+
     void textColors_data()
     {
         QTest::addColumn<int>("state");
