@@ -104,9 +104,6 @@ private Q_SLOTS:
         for (const qreal scale : {1.0, 2.0}) {
             for (const char *look :
                  {"outline", "fill", "fill on the half pixel", "both", "translucent"}) {
-                if (scale == 2.0 && text(look) == text("translucent")) {
-                    continue; // not put together
-                }
                 for (const QSize &size : {QSize(9, 9), QSize(13, 40), QSize(28, 15), QSize(80, 26),
                                           QSize(200, 96), QSize(12, 230), QSize(150, 240)}) {
                     QTest::addRow("%s %dx%d at %g", look, size.width(), size.height(), scale)

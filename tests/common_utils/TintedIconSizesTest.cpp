@@ -49,6 +49,7 @@ private Q_SLOTS:
     void emptySizesGiveNothing();
     void unreadableSourceGivesNothing();
     void hugeSizesTakeBoundedMemory();
+    void hugeSizesKeepTheProportions();
 };
 
 void TintedIconSizesTest::paintsVectorsInDevicePixels_data()
@@ -187,6 +188,18 @@ void TintedIconSizesTest::hugeSizesTakeBoundedMemory()
     QPainter painter(&canvas);
     icon.paint(&painter, QRect(-50000, -50000, 100000, 100000));
     QCOMPARE(canvas.pixelColor(4, 4), tint);
+}
+
+/// What fills the largest picture in one direction is taken to be scalable as well.
+void TintedIconSizesTest::hugeSizesKeepTheProportions()
+{
+    const QByteArray wide = R"(<svg xmlns="http://www.w3.org/2000/svg" width="16" height="8"/>)";
+    const QByteArray high = R"(<svg xmlns="http://www.w3.org/2000/svg" width="8" height="16"/>)";
+    const QSize size(100000, 100000);
+    QCOMPARE(tinted(QIcon(writeSvg(wide)), tint).actualSize(size), QSize(100000, 50000));
+    QCOMPARE(tinted(QIcon(writeSvg(high)), tint).actualSize(size), QSize(50000, 100000));
+    const QIcon small = plainPixmap({16, 8}, foreground);
+    QCOMPARE(tinted(small, tint).actualSize(size), QSize(16, 8));
 }
 
 QTEST_MAIN(TintedIconSizesTest)

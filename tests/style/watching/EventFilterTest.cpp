@@ -48,6 +48,13 @@ public:
     }
 };
 
+/// A window that tells how many wait for its end.
+class ListenedWindow : public QWidget
+{
+public:
+    int listeners() const { return receivers(SIGNAL(destroyed(QObject *))); }
+};
+
 /// A window of the things that Alt concerns.
 struct AltWindow
 {
@@ -210,6 +217,20 @@ private Q_SLOTS:
             QCloseEvent close;
             m_style->eventFilter(closed, &close);
             QVERIFY(!m_style->hasSeenAlt(&all.window));
+        }
+    }
+
+    void closedWindowIsNotWatched()
+    {
+        ListenedWindow window;
+        const int before = window.listeners();
+        for (int opening = 0; opening < 3; ++opening) {
+            send(window, QEvent::KeyPress);
+            send(window, QEvent::KeyRelease);
+            QVERIFY(window.listeners() > before);
+            QCloseEvent close;
+            m_style->eventFilter(&window, &close);
+            QCOMPARE(window.listeners(), before);
         }
     }
 

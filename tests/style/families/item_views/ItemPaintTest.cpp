@@ -18,11 +18,16 @@
 
 namespace {
 
-void setIcon(QStyleOptionViewItem &option, const QColor &color)
+QPixmap squarePixmap(const QColor &color)
 {
     QPixmap pixmap(16, 16);
     pixmap.fill(color);
-    option.icon = QIcon(pixmap);
+    return pixmap;
+}
+
+void setIcon(QStyleOptionViewItem &option, const QColor &color)
+{
+    option.icon = QIcon(squarePixmap(color));
     option.decorationSize = QSize(16, 16);
     option.features |= QStyleOptionViewItem::HasDecoration;
 }
@@ -99,6 +104,32 @@ private Q_SLOTS:
         QCOMPARE(picture(option), fusionPicture(option));
         option.text.clear();
         QCOMPARE(picture(option), fusionPicture(option));
+    }
+
+    void iconModes_data()
+    {
+        QTest::addColumn<int>("state");
+        QTest::addColumn<QColor>("color");
+        const int enabled = QStyle::State_Enabled | QStyle::State_Active;
+        QTest::newRow("rest") << enabled << QColor(Qt::red);
+        QTest::newRow("open") << int(enabled | QStyle::State_Open) << QColor(Qt::yellow);
+        QTest::newRow("selected") << int(enabled | QStyle::State_Selected) << QColor(Qt::blue);
+        QTest::newRow("disabled") << 0 << QColor(Qt::magenta);
+        QTest::newRow("disabled and selected")
+            << int(QStyle::State_Selected) << QColor(Qt::magenta);
+    }
+
+    void iconModes()
+    {
+        QFETCH(int, state);
+        QFETCH(QColor, color);
+        QStyleOptionViewItem option = itemOption(QString());
+        option.state = QStyle::State(state);
+        setIcon(option, Qt::red);
+        option.icon.addPixmap(squarePixmap(Qt::yellow), QIcon::Normal, QIcon::On);
+        option.icon.addPixmap(squarePixmap(Qt::blue), QIcon::Selected);
+        option.icon.addPixmap(squarePixmap(Qt::magenta), QIcon::Disabled);
+        QVERIFY(containsColor(picture(option), color));
     }
 
     void iconIsClipped()
