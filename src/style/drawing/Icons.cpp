@@ -19,12 +19,29 @@ namespace {
 QPointF towardsPixel(const QPainter &painter, const QPointF &point)
 {
     const QTransform &transform = painter.deviceTransform();
-    if (transform.type() > QTransform::TxScale) {
+    const bool isSwitchedOff = !painter.worldMatrixEnabled() && !painter.transform().isIdentity();
+    if (transform.type() > QTransform::TxScale || isSwitchedOff) {
         return {};
     }
     const QPointF onDevice = transform.map(point);
     const QPointF offset = QPointF(onDevice.toPoint()) - onDevice;
     return {offset.x() / transform.m11(), offset.y() / transform.m22()};
+}
+
+/// Has \a paint paint with \a painter moved by \a offset. Moving it back would not quite undo that.
+template <typename Paint>
+void paintMoved(QPainter &painter, const QPointF &offset, Paint paint)
+{
+    if (offset.isNull()) {
+        paint();
+        return;
+    }
+    const QTransform former = painter.transform();
+    const bool wasTransformed = painter.worldMatrixEnabled();
+    painter.translate(offset);
+    paint();
+    painter.setTransform(former);
+    painter.setWorldMatrixEnabled(wasTransformed);
 }
 
 } // namespace
@@ -43,14 +60,8 @@ const QIcon &keptIcon(const char *name)
 void drawIcon(QPainter &painter, const QRect &rect, const QIcon &icon, QIcon::Mode mode,
               QIcon::State state)
 {
-    const QPointF offset = towardsPixel(painter, rect.topLeft());
-    if (offset.isNull()) {
-        icon.paint(&painter, rect, Qt::AlignCenter, mode, state);
-        return;
-    }
-    painter.translate(offset);
-    icon.paint(&painter, rect, Qt::AlignCenter, mode, state);
-    painter.translate(-offset);
+    paintMoved(painter, towardsPixel(painter, rect.topLeft()),
+               [&] { icon.paint(&painter, rect, Qt::AlignCenter, mode, state); });
 }
 
 void drawTintedIcon(QPainter &painter, const QRect &rect, const QIcon &icon, const QBrush &brush)
@@ -74,10 +85,8 @@ void drawItemPixmap(const QStyle &proxy, QPainter &painter, const QRect &rect,
 {
     const QRect target =
         QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, sizeOf(pixmap), rect);
-    const QPointF offset = towardsPixel(painter, target.topLeft());
-    painter.translate(offset);
-    proxy.drawItemPixmap(&painter, target, Qt::AlignCenter, pixmap);
-    painter.translate(-offset);
+    paintMoved(painter, towardsPixel(painter, target.topLeft()),
+               [&] { proxy.drawItemPixmap(&painter, target, Qt::AlignCenter, pixmap); });
 }
 
 } // namespace TARN

@@ -44,6 +44,16 @@ int cornerRadius(CornerSize size)
     return radii.value().at(static_cast<std::size_t>(size));
 }
 
+QRect withinReach(const QRect &rect)
+{
+    const auto bounded = [](int coordinate) {
+        constexpr int farthest = 1 << 24;
+        return qBound(-farthest, coordinate, farthest);
+    };
+    return {QPoint(bounded(rect.left()), bounded(rect.top())),
+            QPoint(bounded(rect.right()), bounded(rect.bottom()))};
+}
+
 QRectF onHalfPixel(const QRect &rect)
 {
     return QRectF(rect).adjusted(0.5, 0.5, -0.5, -0.5);

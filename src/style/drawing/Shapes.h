@@ -17,6 +17,10 @@ enum class CornerSize { Small, Base, Medium, Large };
 /// Returns the theme's radius, truncated to whole device-independent pixels.
 int cornerRadius(CornerSize size);
 
+/// Returns \a rect within what is ever painted: its edges may be moved and measured without getting
+/// out of the range of numbers.
+QRect withinReach(const QRect &rect);
+
 /// Returns the rectangle along which an outline of one pixel runs just inside of \a rect.
 QRectF onHalfPixel(const QRect &rect);
 

@@ -105,7 +105,7 @@ int indicatorMetric(const PaintRequest &request, QStyle::PixelMetric metric)
 /// and clear of the box by two pixels at both ends.
 QRect partialMarkRect(const PaintRequest &request)
 {
-    const QRect &box = request.option->rect;
+    const QRect box = withinReach(request.option->rect);
     const int width = indicatorMetric(request, QStyle::PM_IndicatorWidth);
     const int height = indicatorMetric(request, QStyle::PM_IndicatorHeight);
     const int thickness = qRound(width * 0.25);
@@ -213,22 +213,23 @@ QRect indicatorRect(const SubElementRequest &request)
         request.proxy().pixelMetric(QStyle::PM_IndicatorWidth, &option, request.widget);
     const int height =
         request.proxy().pixelMetric(QStyle::PM_IndicatorHeight, &option, request.widget);
-    const int top = option.rect.y() + (option.rect.height() - height) / 2;
-    return QStyle::visualRect(option.direction, option.rect,
-                              QRect(option.rect.x(), top, width, height));
+    const QRect room = withinReach(option.rect);
+    const int top = room.y() + (room.height() - height) / 2;
+    return QStyle::visualRect(option.direction, room, QRect(room.x(), top, width, height));
 }
 
 QRect contentsRect(const SubElementRequest &request)
 {
     const QStyleOption &option = *request.option;
+    const QRect room = withinReach(option.rect);
     const QRect indicator = QStyle::visualRect(
-        option.direction, option.rect,
+        option.direction, room,
         request.style.subElementRect(QStyle::SE_CheckBoxIndicator, &option, request.widget));
     const int spacing =
         request.proxy().pixelMetric(QStyle::PM_CheckBoxLabelSpacing, &option, request.widget);
-    const QRect contents(indicator.right() + spacing, option.rect.top(),
-                         option.rect.width() - indicator.width() - spacing, option.rect.height());
-    return QStyle::visualRect(option.direction, option.rect, contents);
+    const QRect contents(indicator.right() + spacing, room.top(),
+                         room.width() - indicator.width() - spacing, room.height());
+    return QStyle::visualRect(option.direction, room, contents);
 }
 
 bool drawCheckIndicator(const PaintRequest &request)
@@ -274,14 +275,15 @@ bool drawLabel(const PaintRequest &request)
     const QStyle &proxy = request.proxy();
     const Qt::Alignment side =
         QStyle::visualAlignment(option->direction, Qt::AlignLeft | Qt::AlignVCenter);
-    QRect textRect = option->rect;
+    const QRect room = withinReach(option->rect);
+    QRect textRect = room;
     if (!option->icon.isNull()) {
-        proxy.drawItemPixmap(request.painter, option->rect, int(side),
+        proxy.drawItemPixmap(request.painter, room, int(side),
                              labelPixmap(*option, request.widget));
         // The toolkit reserves this much beside the icon when it measures the label.
         constexpr int spacing = 4;
-        const QRect logical = option->rect.adjusted(option->iconSize.width() + spacing, 0, 0, 0);
-        textRect = QStyle::visualRect(option->direction, option->rect, logical);
+        const QRect logical = room.adjusted(option->iconSize.width() + spacing, 0, 0, 0);
+        textRect = QStyle::visualRect(option->direction, room, logical);
     }
     if (!option->text.isEmpty()) {
         proxy.drawItemText(request.painter, textRect, int(side) | mnemonicFlags(request),

@@ -28,7 +28,7 @@ int arrowExtent(const SubControlRequest &request)
 
 QRect editFieldRect(const SubControlRequest &request)
 {
-    QRect rect = request.option->rect;
+    QRect rect = withinReach(request.option->rect);
     const auto *option = qstyleoption_cast<const QStyleOptionComboBox *>(request.option);
     if (!option) {
         return rect;
@@ -48,7 +48,7 @@ QRect editFieldRect(const SubControlRequest &request)
 
 QRect arrowRect(const SubControlRequest &request)
 {
-    QRect rect = request.option->rect;
+    QRect rect = withinReach(request.option->rect);
     rect.setLeft(rect.width() + 4 - qMax(rect.height(), arrowExtent(request)));
     return rect;
 }
@@ -75,7 +75,8 @@ struct ComboBoxRequest
 /// editor of any other stands where the sub-controls are, and these are not mirrored.
 QRect visualPart(const QStyleOptionComboBox &option, const QRect &rect)
 {
-    return option.editable ? rect : QStyle::visualRect(option.direction, option.rect, rect);
+    return option.editable ? rect
+                           : QStyle::visualRect(option.direction, withinReach(option.rect), rect);
 }
 
 /// Returns how far the arrow makes way for the error mark at the end of the button. An editable
@@ -84,7 +85,7 @@ int errorMarkRoom(const ComboBoxRequest &comboBox)
 {
     constexpr int markAndMargin = 20;
     const bool hasMark = !comboBox.option.editable && isInError(comboBox.request.widget);
-    return hasMark ? qMin(markAndMargin, comboBox.option.rect.height()) : 0;
+    return hasMark ? qMin(markAndMargin, withinReach(comboBox.option.rect).height()) : 0;
 }
 
 /// Returns where the arrow is painted, before it is mirrored.
@@ -109,8 +110,9 @@ void drawFocusRect(const ComboBoxRequest &comboBox)
 {
     // Midway between the outline and the text.
     constexpr int margin = 2;
-    TARN::drawFocusRect(comboBox.request,
-                        comboBox.option.rect.adjusted(margin, margin, -margin, -margin));
+    TARN::drawFocusRect(
+        comboBox.request,
+        withinReach(comboBox.option.rect).adjusted(margin, margin, -margin, -margin));
 }
 
 void drawButton(const ComboBoxRequest &comboBox)

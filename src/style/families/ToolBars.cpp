@@ -5,6 +5,7 @@
 #include "style/brushes/KeptBrushes.h"
 #include "style/drawing/Grips.h"
 #include "style/drawing/Lines.h"
+#include "style/drawing/Shapes.h"
 
 #include <QtGui/QPainter>
 #include <QtWidgets/QMainWindow>
@@ -44,7 +45,7 @@ void drawInnerEdge(QPainter &painter, const QStyleOptionToolBar &option, const Q
 bool drawHandle(const PaintRequest &request)
 {
     const QStyleOption &option = *request.option;
-    const QRect &rect = option.rect;
+    const QRect rect = withinReach(option.rect);
     const int x = (rect.left() + rect.right()) / 2;
     const int y = (rect.top() + rect.bottom()) / 2;
     // The ends are uneven: the row ends where the next grip would start.
@@ -59,7 +60,7 @@ bool drawHandle(const PaintRequest &request)
 bool drawSeparator(const PaintRequest &request)
 {
     const QStyleOption &option = *request.option;
-    const QRect &rect = option.rect;
+    const QRect rect = withinReach(option.rect);
     // The line crosses the direction in which the bar runs.
     QRect line;
     if (has(option, QStyle::State_Horizontal)) {

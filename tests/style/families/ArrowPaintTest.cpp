@@ -104,6 +104,7 @@ private Q_SLOTS:
     void icons();
     void dateEditors_data();
     void dateEditors();
+    void transformationIsLeftAsItWas();
     void noMenuArrow_data();
     void noMenuArrow();
     void colors_data();
@@ -208,6 +209,28 @@ void ArrowPaintTest::dateEditors()
     QCOMPARE(iconOf(down.translated(-middle.topLeft())), icon);
     const QRect up = paintedPart(painted(QStyle::PE_IndicatorArrowUp, plainOption(), edit));
     QCOMPARE(iconOf(up.translated(-middle.topLeft())), text("chevron.up"));
+}
+
+/// Moving a painter to a pixel and back again may end beside where it began.
+void ArrowPaintTest::transformationIsLeftAsItWas()
+{
+    QImage image(pictureSize, QImage::Format_RGB32);
+    image.setDevicePixelRatio(1.25);
+    for (int step = 1; step < 200; ++step) {
+        const QTransform transform(1 + step / 37.0, 0, 0, 1 + step / 41.0, step / 3.0, step / 7.0);
+        QPainter painter(&image);
+        painter.setTransform(transform);
+        const QStyleOption option = plainOption();
+        m_recorder.style().drawPrimitive(QStyle::PE_IndicatorArrowLeft, &option, &painter);
+        QVERIFY(painter.worldMatrixEnabled());
+        // The operator for transformations takes nearly the same ones for equal, too.
+        const QTransform after = painter.transform();
+        QVERIFY(after.dx() == transform.dx() && after.dy() == transform.dy());
+        painter.setWorldMatrixEnabled(false);
+        m_recorder.style().drawPrimitive(QStyle::PE_IndicatorArrowLeft, &option, &painter);
+        QVERIFY(!painter.worldMatrixEnabled());
+        QVERIFY(painter.transform() == transform);
+    }
 }
 
 void ArrowPaintTest::noMenuArrow_data()

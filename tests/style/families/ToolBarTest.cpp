@@ -2,6 +2,7 @@
 #include <QtWidgets/QMainWindow>
 #include <QtWidgets/QToolBar>
 
+#include <limits>
 #include <support/Text.h>
 #include <support/painting/CallRecorder.h>
 #include <support/painting/FusionPicture.h>
@@ -53,6 +54,8 @@ private Q_SLOTS:
 
     void handle_data();
     void handle();
+    void nothingFarAwayIsPainted_data();
+    void nothingFarAwayIsPainted();
     void separator_data();
     void separator();
 
@@ -171,6 +174,28 @@ void ToolBarTest::handle()
     }
     QCOMPARE(found, dots);
     QCOMPARE(paintedRect(picture), QRect(dots.first(), dots.last() + QPoint(1, 1)));
+}
+
+void ToolBarTest::nothingFarAwayIsPainted_data()
+{
+    QTest::addColumn<QRect>("rect");
+    constexpr int last = std::numeric_limits<int>::max();
+    QTest::newRow("right") << QRect(QPoint(last, 0), QPoint(last, 39));
+    QTest::newRow("below") << QRect(QPoint(0, last), QPoint(59, last));
+    QTest::newRow("left") << QRect(QPoint(-last, 0), QPoint(-last, 39));
+}
+
+void ToolBarTest::nothingFarAwayIsPainted()
+{
+    QFETCH(QRect, rect);
+    for (const QStyle::State state : {QStyle::State_None, QStyle::State_Horizontal}) {
+        QStyleOption option = plainOption(state);
+        option.rect = rect;
+        for (const auto element :
+             {QStyle::PE_IndicatorToolBarHandle, QStyle::PE_IndicatorToolBarSeparator}) {
+            QCOMPARE(m_recorder.picture(element, option, nullptr, size), plainPicture(size));
+        }
+    }
 }
 
 void ToolBarTest::separator_data()

@@ -28,7 +28,8 @@ QColor outlineColor(const QStyleOption &option)
 bool drawPanel(const PaintRequest &request)
 {
     const QStyleOption &option = *request.option;
-    if (option.rect.isEmpty()) {
+    // A painter that is not at work has no device, which the frame would be drawn for.
+    if (option.rect.isEmpty() || !request.painter->isActive()) {
         return true;
     }
     request.painter->fillRect(

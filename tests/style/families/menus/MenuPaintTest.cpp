@@ -5,6 +5,7 @@
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QMenu>
 
+#include <support/MessageRecorder.h>
 #include <support/Text.h>
 #include <support/painting/CallRecorder.h>
 #include <support/painting/OddRectangles.h>
@@ -29,6 +30,17 @@ private Q_SLOTS:
     {
         // It makes the disabled pictures of icons.
         QApplication::setStyle(new TARN::BaseStyle);
+    }
+
+    /// Whoever paints where nothing can be painted is told so by the toolkit, and lives.
+    void panelOfAPainterThatIsNotAtWork()
+    {
+        MessageRecorder messages;
+        QPainter painter;
+        QStyleOption option;
+        option.rect = itemRect;
+        m_recorder.style().drawPrimitive(QStyle::PE_PanelMenu, &option, &painter);
+        QVERIFY(!messages.take().isEmpty());
     }
 
     void panel()
