@@ -13,20 +13,26 @@ constexpr bool isPainted(std::string_view rule)
     return rule != "leftToBaseStyle";
 }
 
-#define MOX_ELEMENT(element, rule) {#element, QStyle::element, isPainted(#rule)},
+constexpr bool isPainted(std::string_view rule, std::string_view completeRule)
+{
+    return isPainted(completeRule == "sameRule" ? rule : completeRule);
+}
+
+#define MOX_ELEMENT(element, rule, completeRule)                                                   \
+    {#element, QStyle::element, isPainted(#rule), isPainted(#rule, #completeRule)},
 
 constexpr StyleElement primitiveRows[] = {
-#define MOX_PRIMITIVE(element, rule) MOX_ELEMENT(element, rule)
+#define MOX_PRIMITIVE(element, rule, completeRule) MOX_ELEMENT(element, rule, completeRule)
 #include "catalogue/Elements.def"
 };
 
 constexpr StyleElement controlRows[] = {
-#define MOX_CONTROL(element, rule) MOX_ELEMENT(element, rule)
+#define MOX_CONTROL(element, rule, completeRule) MOX_ELEMENT(element, rule, completeRule)
 #include "catalogue/Elements.def"
 };
 
 constexpr StyleElement complexControlRows[] = {
-#define MOX_COMPLEX_CONTROL(element, rule) MOX_ELEMENT(element, rule)
+#define MOX_COMPLEX_CONTROL(element, rule, completeRule) MOX_ELEMENT(element, rule, completeRule)
 #include "catalogue/Elements.def"
 };
 

@@ -10,6 +10,7 @@ struct StyleElement
     const char *name; ///< as the toolkit spells it
     int element;      ///< of the enumeration that the list is for
     bool isPainted;   ///< by the style; otherwise the element is left to the base style
+    bool isPaintedInCompleteMode;
 };
 
 namespace Catalogue {

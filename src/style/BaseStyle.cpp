@@ -3,6 +3,7 @@
 #include "catalogue/Names.h"
 #include "catalogue/Words.h"
 #include "resources/ThemeResources.h"
+#include "style/asking/AppliedTheme.h"
 #include "style/asking/Backgrounds.h"
 #include "style/brushes/ButtonBrushChoice.h"
 #include "style/brushes/KeptBrushes.h"
@@ -59,6 +60,8 @@ class BaseStyle::State
 public:
     /// The base style that was made for us; an application may set another one.
     QPointer<QStyle> fusion;
+    /// That of the theme which was applied when the style was made.
+    const Mode mode = appliedTheme().mode;
     QPalette palette;
     AltKey altKey;
 };
@@ -68,7 +71,8 @@ BaseStyle::BaseStyle()
     , m_state(std::make_unique<State>())
 {
     m_state->fusion = baseStyle();
-    m_state->palette = m_state->fusion->standardPalette();
+    m_state->palette = m_state->mode == Mode::Complete ? appliedTheme().palette
+                                                       : m_state->fusion->standardPalette();
     // These are looked up when a style is made, whether or not anything is painted with them.
     themeBrush(BrushName::ExpanderHeaderBrush, true);
     themeBrush(BrushName::BackgroundBrush, true);
@@ -128,14 +132,14 @@ void BaseStyle::unpolish(QApplication *application)
 int BaseStyle::pixelMetric(PixelMetric metric, const QStyleOption *option,
                            const QWidget *widget) const
 {
-    const std::optional<int> own = pixelMetricOf(metric, widget);
+    const std::optional<int> own = pixelMetricOf(metric, widget, m_state->mode);
     return own ? *own : QProxyStyle::pixelMetric(metric, option, widget);
 }
 
 int BaseStyle::styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
                          QStyleHintReturn *returnData) const
 {
-    if (const std::optional<int> own = styleHintOf(hint, option, returnData)) {
+    if (const std::optional<int> own = styleHintOf(hint, option, returnData, m_state->mode)) {
         return *own;
     }
     const int answer = QProxyStyle::styleHint(hint, option, widget, returnData);
@@ -152,7 +156,7 @@ void BaseStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *opti
     if (!option || !painter) {
         return;
     }
-    const PaintRule rule = paintRule(element);
+    const PaintRule rule = paintRule(element, m_state->mode);
     if (!rule || !paint(rule, {*this, option, painter, widget})) {
         QProxyStyle::drawPrimitive(element, option, painter, widget);
     }
@@ -164,7 +168,7 @@ void BaseStyle::drawControl(ControlElement element, const QStyleOption *option, 
     if (!option || !painter) {
         return;
     }
-    const PaintRule rule = paintRule(element);
+    const PaintRule rule = paintRule(element, m_state->mode);
     if (!rule || !paint(rule, {*this, option, painter, widget})) {
         QProxyStyle::drawControl(element, option, painter, widget);
     }
@@ -176,7 +180,7 @@ void BaseStyle::drawComplexControl(ComplexControl control, const QStyleOptionCom
     if (!option || !painter) {
         return;
     }
-    const PaintRule rule = paintRule(control);
+    const PaintRule rule = paintRule(control, m_state->mode);
     if (!rule || !paint(rule, {*this, option, painter, widget})) {
         QProxyStyle::drawComplexControl(control, option, painter, widget);
     }
@@ -218,7 +222,7 @@ QRect BaseStyle::subElementRect(SubElement element, const QStyleOption *option,
                                 const QWidget *widget) const
 {
     ItemViews::listViewPadding(*proxy());
-    const SubElementRule rule = subElementRule(element);
+    const SubElementRule rule = subElementRule(element, m_state->mode);
     if (rule && !option) {
         // The base style does not look whether there is one.
         return {};
@@ -230,7 +234,7 @@ QRect BaseStyle::subElementRect(SubElement element, const QStyleOption *option,
 QRect BaseStyle::subControlRect(ComplexControl control, const QStyleOptionComplex *option,
                                 SubControl sc, const QWidget *widget) const
 {
-    const SubControlRule rule = subControlRule(control);
+    const SubControlRule rule = subControlRule(control, m_state->mode);
     if (rule && !option) {
         return {};
     }
@@ -241,7 +245,7 @@ QRect BaseStyle::subControlRect(ComplexControl control, const QStyleOptionComple
 QSize BaseStyle::sizeFromContents(ContentsType type, const QStyleOption *option,
                                   const QSize &contentsSize, const QWidget *widget) const
 {
-    const ContentsRule rule = option ? contentsRule(type) : nullptr;
+    const ContentsRule rule = option ? contentsRule(type, m_state->mode) : nullptr;
     return rule ? rule({*this, type, option, contentsSize, widget})
                 : QProxyStyle::sizeFromContents(type, option, contentsSize, widget);
 }

@@ -106,9 +106,12 @@ void BaseTheme::customize(QApplication *app)
             qDebug() << "Error reading theme QPalette mapping file: " << mappingPath;
         }
         cleanSwitch.removeStyleSheet();
-        installStyle(mapping.deserialize());
+        const Mode mode = wantedMode(*app);
+        installStyle(mapping.deserialize(), mode);
         cleanSwitch.spreadFont(font);
-        installStyleSheet(*app);
+        if (mode == Mode::Default) {
+            installStyleSheet(*app);
+        }
     }
     QApplication::setFont(font);
 

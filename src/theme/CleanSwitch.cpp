@@ -3,6 +3,7 @@
 #include "resources/ThemeResources.h"
 #include "resources/variables/ThemeGeneration.h"
 #include "style/asking/Properties.h"
+#include "theme/StyleInstallation.h"
 #include "theme/ThemeFootprint.h"
 
 #include <QtGui/QPixmapCache>
@@ -35,7 +36,7 @@ CleanSwitch::CleanSwitch(QApplication &app, ThemeFootprint &footprint)
     : m_app(app)
     , m_footprint(footprint)
 {
-    if (!isSet(&app, Property::AppLiveThemeSwitch)) {
+    if (!isSet(&app, Property::AppLiveThemeSwitch) && wantedMode(app) == Mode::Default) {
         return;
     }
     m_followers.emplace();
@@ -90,7 +91,9 @@ void CleanSwitch::forgetLookUps()
 void CleanSwitch::removeStyleSheet()
 {
     m_styleIsNew = true;
-    if (isActive()) {
+    if (wantedMode(m_app) == Mode::Complete) {
+        removeInstalledStyleSheet(m_app);
+    } else if (isActive()) {
         m_app.setStyleSheet(QString());
     }
 }

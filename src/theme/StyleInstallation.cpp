@@ -3,6 +3,8 @@
 #include "resources/ThemeColorHelper.h"
 #include "resources/ThemeResources.h"
 #include "style/BaseStyle.h"
+#include "style/asking/AppliedTheme.h"
+#include "style/asking/Properties.h"
 
 #include <QtCore/QDebug>
 #include <QtCore/QDirIterator>
@@ -11,6 +13,8 @@
 #include <QtGui/QPalette>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QToolTip>
+
+#include <utility>
 
 namespace TARN {
 
@@ -59,11 +63,24 @@ QString compiledInStyleSheet()
     return styleSheet;
 }
 
+/// The stylesheet that an application was given last.
+QString &installedStyleSheet()
+{
+    static QString styleSheet;
+    return styleSheet;
+}
+
 } // namespace
 
-void installStyle(const QPalette &palette)
+Mode wantedMode(const QApplication &app)
+{
+    return isSet(&app, Property::AppCompleteTheming) ? Mode::Complete : Mode::Default;
+}
+
+void installStyle(const QPalette &palette, Mode mode)
 {
     const QPalette completePalette = withDisabledColors(palette);
+    setAppliedTheme({mode, completePalette});
     auto *style = new BaseStyle;
     style->setPalette(completePalette);
     QApplication::setStyle(style);
@@ -72,7 +89,16 @@ void installStyle(const QPalette &palette)
 
 void installStyleSheet(QApplication &app)
 {
-    app.setStyleSheet(ThemeResources::customizeStyleSheet(compiledInStyleSheet()));
+    installedStyleSheet() = ThemeResources::customizeStyleSheet(compiledInStyleSheet());
+    app.setStyleSheet(installedStyleSheet());
+}
+
+void removeInstalledStyleSheet(QApplication &app)
+{
+    const QString installed = std::exchange(installedStyleSheet(), QString());
+    if (!installed.isEmpty() && app.styleSheet() == installed) {
+        app.setStyleSheet(QString());
+    }
 }
 
 } // namespace TARN

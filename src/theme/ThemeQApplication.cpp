@@ -1,5 +1,6 @@
 #include "theme/ThemeQApplication.h"
 
+#include "catalogue/Properties.h"
 #include "theme/Theme.h"
 #include "theme/ThemeFactory.h"
 
@@ -16,6 +17,8 @@ void takeOption(const QStringList &arguments, const QString &option, QString &va
     }
 }
 
+bool wantsCompleteTheming = false;
+
 } // namespace
 
 ThemeQApplication::ThemeQApplication(int &argc, char **argv)
@@ -27,10 +30,18 @@ ThemeQApplication::ThemeQApplication(int &argc, char **argv, const QString &them
                                      const QString &repository)
     : QApplication(argc, argv)
 {
+    if (wantsCompleteTheming) {
+        setProperty(nameOf(Property::AppCompleteTheming), true);
+    }
     init(theme, repository);
 }
 
 ThemeQApplication::~ThemeQApplication() = default;
+
+void ThemeQApplication::setCompleteTheming(bool isComplete)
+{
+    wantsCompleteTheming = isComplete;
+}
 
 void ThemeQApplication::init(QString theme, QString repository)
 {

@@ -31,6 +31,16 @@ public:
 
     ~ThemeQApplication() override;
 
+    /// Sets whether application objects that are made from now on have their dynamic property
+    /// "appCompleteTheming" set to true before a constructor applies its first theme; see
+    /// BaseTheme::customize(). Off at first. To be called before the application object is made:
+    ///
+    /// \code
+    /// TARN::ThemeQApplication::setCompleteTheming(true);
+    /// TARN::ThemeQApplication application(argc, argv, "Dark",
+    /// "/usr/share/mox_common_theme/Themes"); \endcode
+    static void setCompleteTheming(bool isComplete);
+
     /// Takes the options from the command line, sets the repository unless it is empty, and then
     /// applies \a theme unless it is empty. A theme that does not exist leaves the application
     /// unthemed. The constructors call this.

@@ -23,9 +23,21 @@ namespace {
 template <typename Element, typename Rule>
 struct Row
 {
+    constexpr Row(Element ofElement, Rule rule)
+        : Row(ofElement, rule, rule)
+    {
+    }
+    constexpr Row(Element ofElement, Rule byDefault, Rule complete)
+        : element(ofElement)
+        , ofModes{byDefault, complete}
+    {
+    }
+
     Element element;
-    Rule rule;
+    Rule ofModes[2];
 };
+
+// An element with one rule has it in both modes; one with two, the second in the complete mode.
 
 constexpr Row<QStyle::SubElement, SubElementRule> subElementTable[] = {
     {QStyle::SE_CheckBoxIndicator, CheckBoxes::indicatorRect},
@@ -59,29 +71,29 @@ constexpr Row<QStyle::ContentsType, ContentsRule> contentsTable[] = {
 };
 
 template <typename Element, typename Rule, std::size_t Size>
-Rule find(const Row<Element, Rule> (&table)[Size], Element element)
+Rule find(const Row<Element, Rule> (&table)[Size], Element element, Mode mode)
 {
     const auto *row = std::find_if(
         std::begin(table), std::end(table),
         [element](const Row<Element, Rule> &candidate) { return candidate.element == element; });
-    return row == std::end(table) ? nullptr : row->rule;
+    return row == std::end(table) ? nullptr : row->ofModes[static_cast<int>(mode)];
 }
 
 } // namespace
 
-SubElementRule subElementRule(QStyle::SubElement element)
+SubElementRule subElementRule(QStyle::SubElement element, Mode mode)
 {
-    return find(subElementTable, element);
+    return find(subElementTable, element, mode);
 }
 
-SubControlRule subControlRule(QStyle::ComplexControl control)
+SubControlRule subControlRule(QStyle::ComplexControl control, Mode mode)
 {
-    return find(subControlTable, control);
+    return find(subControlTable, control, mode);
 }
 
-ContentsRule contentsRule(QStyle::ContentsType type)
+ContentsRule contentsRule(QStyle::ContentsType type, Mode mode)
 {
-    return find(contentsTable, type);
+    return find(contentsTable, type, mode);
 }
 
 } // namespace TARN

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "style/asking/Mode.h"
 #include "style/asking/Requests.h"
 
 #include <QtCore/QRect>
@@ -10,13 +11,13 @@ namespace TARN {
 /// Each returns the rule for an element, or null when the base style's answer is to hold.
 /// \{
 using SubElementRule = QRect (*)(const SubElementRequest &request);
-SubElementRule subElementRule(QStyle::SubElement element);
+SubElementRule subElementRule(QStyle::SubElement element, Mode mode);
 
 using SubControlRule = QRect (*)(const SubControlRequest &request);
-SubControlRule subControlRule(QStyle::ComplexControl control);
+SubControlRule subControlRule(QStyle::ComplexControl control, Mode mode);
 
 using ContentsRule = QSize (*)(const ContentsRequest &request);
-ContentsRule contentsRule(QStyle::ContentsType type);
+ContentsRule contentsRule(QStyle::ContentsType type, Mode mode);
 /// \}
 
 } // namespace TARN

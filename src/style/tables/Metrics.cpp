@@ -44,6 +44,7 @@ struct MetricRow
     int metric;
     int value;
     int (*compute)(const QWidget *widget) = nullptr;
+    Mode leastMode = Mode::Default;
 };
 
 constexpr MetricRow metricTable[] = {
@@ -99,6 +100,7 @@ struct HintRow
 {
     QStyle::StyleHint hint;
     int (*answer)(const QStyleOption *option, QStyleHintReturn *returnData);
+    Mode leastMode = Mode::Default;
 };
 
 constexpr HintRow hintTable[] = {
@@ -113,11 +115,12 @@ constexpr HintRow hintTable[] = {
 
 } // namespace
 
-std::optional<int> pixelMetricOf(int metric, const QWidget *widget)
+std::optional<int> pixelMetricOf(int metric, const QWidget *widget, Mode mode)
 {
-    const auto *row =
-        std::find_if(std::begin(metricTable), std::end(metricTable),
-                     [metric](const MetricRow &each) { return each.metric == metric; });
+    const auto *row = std::find_if(std::begin(metricTable), std::end(metricTable),
+                                   [metric, mode](const MetricRow &each) {
+                                       return each.metric == metric && each.leastMode <= mode;
+                                   });
     if (row == std::end(metricTable)) {
         return std::nullopt;
     }
@@ -125,10 +128,12 @@ std::optional<int> pixelMetricOf(int metric, const QWidget *widget)
 }
 
 std::optional<int> styleHintOf(QStyle::StyleHint hint, const QStyleOption *option,
-                               QStyleHintReturn *returnData)
+                               QStyleHintReturn *returnData, Mode mode)
 {
-    const auto *row = std::find_if(std::begin(hintTable), std::end(hintTable),
-                                   [hint](const HintRow &each) { return each.hint == hint; });
+    const auto *row =
+        std::find_if(std::begin(hintTable), std::end(hintTable), [hint, mode](const HintRow &each) {
+            return each.hint == hint && each.leastMode <= mode;
+        });
     if (row == std::end(hintTable)) {
         return std::nullopt;
     }

@@ -37,44 +37,61 @@ namespace {
 
 constexpr PaintRule leftToBaseStyle = nullptr;
 
-// Each rule stands at the index of its element.
+/// Stands for the rule by default; never called.
+constexpr bool sameRule(const PaintRequest & /*request*/)
+{
+    return false;
+}
 
-constexpr PaintRule primitives[] = {
-#define MOX_PRIMITIVE(element, rule) rule,
+struct Rules
+{
+    constexpr Rules(PaintRule byDefault, PaintRule complete)
+        : ofModes{byDefault, complete == sameRule ? byDefault : complete}
+    {
+    }
+
+    PaintRule ofModes[2];
+};
+
+// Each pair of rules stands at the index of its element.
+
+constexpr Rules primitives[] = {
+#define MOX_PRIMITIVE(element, rule, completeRule) {rule, completeRule},
 #include "catalogue/Elements.def"
 };
 
-constexpr PaintRule controls[] = {
-#define MOX_CONTROL(element, rule) rule,
+constexpr Rules controls[] = {
+#define MOX_CONTROL(element, rule, completeRule) {rule, completeRule},
 #include "catalogue/Elements.def"
 };
 
-constexpr PaintRule complexControls[] = {
-#define MOX_COMPLEX_CONTROL(element, rule) rule,
+constexpr Rules complexControls[] = {
+#define MOX_COMPLEX_CONTROL(element, rule, completeRule) {rule, completeRule},
 #include "catalogue/Elements.def"
 };
 
 template <int Size>
-PaintRule ruleAt(const PaintRule (&rules)[Size], int element)
+PaintRule ruleAt(const Rules (&rules)[Size], int element, Mode mode)
 {
-    return element >= 0 && element < Size ? rules[element] : nullptr;
+    return element >= 0 && element < Size ? rules[element].ofModes[static_cast<int>(mode)]
+                                          : nullptr;
 }
 
 } // namespace
 
-PaintRule paintRule(QStyle::PrimitiveElement element)
+PaintRule paintRule(QStyle::PrimitiveElement element, Mode mode)
 {
-    return ruleAt(primitives, element);
+    return ruleAt(primitives, element, mode);
 }
 
-PaintRule paintRule(QStyle::ControlElement element)
+PaintRule paintRule(QStyle::ControlElement element, Mode mode)
 {
-    return ruleAt(controls, element);
+    return ruleAt(controls, element, mode);
 }
 
-PaintRule paintRule(QStyle::ComplexControl control)
+PaintRule paintRule(QStyle::ComplexControl control, Mode mode)
 {
-    return ruleAt(complexControls, control);
+    return ruleAt(complexControls, control, mode);
 }
 
 bool paint(PaintRule rule, const PaintRequest &request)

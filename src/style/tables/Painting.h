@@ -1,5 +1,6 @@
 #pragma once
 
+#include "style/asking/Mode.h"
 #include "style/asking/Requests.h"
 
 /// What the style paints itself, and what it leaves to its base style.
@@ -14,9 +15,9 @@ using PaintRule = bool (*)(const PaintRequest &request);
 
 /// \name The rule for an element; null when the base style paints it
 /// \{
-PaintRule paintRule(QStyle::PrimitiveElement element);
-PaintRule paintRule(QStyle::ControlElement element);
-PaintRule paintRule(QStyle::ComplexControl control);
+PaintRule paintRule(QStyle::PrimitiveElement element, Mode mode);
+PaintRule paintRule(QStyle::ControlElement element, Mode mode);
+PaintRule paintRule(QStyle::ComplexControl control, Mode mode);
 /// \}
 
 /// Paints by \a rule and puts the painter's pen, brush and render hints back.
