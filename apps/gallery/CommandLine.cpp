@@ -29,6 +29,15 @@ QString setScale(CommandLine &commandLine, const QString &value)
     return {};
 }
 
+QString setMode(CommandLine &commandLine, const QString &value)
+{
+    if (value != "complete"_s && value != "default"_s) {
+        return "the mode is complete or default, not '"_s + value + "'"_s;
+    }
+    commandLine.isComplete = value == "complete"_s;
+    return {};
+}
+
 QString setScreenshotFolder(CommandLine &commandLine, const QString &value)
 {
     commandLine.action = CommandLine::Action::WriteScreenshots;
@@ -57,6 +66,7 @@ const QVector<Option> &options()
         {"--theme-repository"_s, true, setText<&CommandLine::repository>},
         {"--screenshot"_s, true, setScreenshotFolder},
         {"--scale"_s, true, setScale},
+        {"--mode"_s, true, setMode},
         {"--help"_s, false, setAction<CommandLine::Action::PrintHelp>},
         {"-h"_s, false, setAction<CommandLine::Action::PrintHelp>},
         {"--version"_s, false, setAction<CommandLine::Action::PrintVersion>},
@@ -168,6 +178,9 @@ Options:
                            paths, and exit. No display is needed.
   --scale 1|2              Pixels per unit of length, in the window and in
                            pictures (pictures: 1 unless given).
+  --mode complete|default  Have the theme's style paint everything without an
+                           application stylesheet, or leave to the toolkit what
+                           is left to it by default (default: default).
   -h, --help               Explain the options and exit.
   --version                Print the version and exit.
 

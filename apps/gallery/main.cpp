@@ -71,6 +71,7 @@ int takeScreenshots(MainWindow &window, const QString &folder)
 
 int runApplication(int argc, char **argv, const CommandLine &commandLine, bool displayMissing)
 {
+    TARN::ThemeQApplication::setCompleteTheming(commandLine.isComplete);
     TARN::ThemeQApplication application(argc, argv, commandLine.theme, commandLine.repository);
     // The first theme is in force by now; from the next one on each takes the former's place.
     application.setProperty("appLiveThemeSwitch", true);
