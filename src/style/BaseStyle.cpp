@@ -17,6 +17,7 @@
 #include "style/families/buttons/ButtonGroups.h"
 #include "style/families/buttons/ToolButtons.h"
 #include "style/families/item_views/ItemViews.h"
+#include "style/polishing/PolishedWidgets.h"
 #include "style/tables/Geometry.h"
 #include "style/tables/Metrics.h"
 #include "style/tables/Painting.h"
@@ -63,6 +64,7 @@ public:
     /// That of the theme which was applied when the style was made.
     const Mode mode = appliedTheme().mode;
     QPalette palette;
+    PolishedWidgets polishedWidgets;
     AltKey altKey;
 };
 
@@ -81,6 +83,7 @@ BaseStyle::BaseStyle()
 BaseStyle::~BaseStyle()
 {
     ComboBoxes::replaceDelegates(*this);
+    m_state->polishedWidgets.takeBackAll();
 }
 
 const QPalette &BaseStyle::getPalette() const
@@ -110,13 +113,13 @@ void BaseStyle::polish(QPalette &pal)
 void BaseStyle::polish(QWidget *widget)
 {
     QProxyStyle::polish(widget);
-    polishWidget(*this, *widget);
+    polishWidget(*this, *widget, m_state->mode, m_state->polishedWidgets);
 }
 
 void BaseStyle::unpolish(QWidget *widget)
 {
     QProxyStyle::unpolish(widget);
-    unpolishWidget(*widget);
+    unpolishWidget(*widget, m_state->mode, m_state->polishedWidgets);
 }
 
 void BaseStyle::polish(QApplication *application)

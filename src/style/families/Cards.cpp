@@ -7,7 +7,7 @@
 #include "style/brushes/KeptBrushes.h"
 #include "style/drawing/Lines.h"
 #include "style/drawing/Shapes.h"
-#include "style/text/WidgetFont.h"
+#include "style/polishing/Polishing.h"
 
 #include <QtGui/QPainter>
 #include <QtWidgets/QFrame>
@@ -137,37 +137,33 @@ void drawSeparator(QPainter &painter, const QRect &rect, const Joins &joins, con
 
 } // namespace
 
-void polishPart(QWidget &widget)
+void polishPart(Polishing &polishing)
 {
-    widget.setAttribute(Qt::WA_StyledBackground);
+    polishing.setAttribute(Qt::WA_StyledBackground);
 }
 
-void polishTitle(QWidget &widget)
+void polishTitle(Polishing &polishing)
 {
     const QFont minimizedFont = ThemeResources::getFont(QStringLiteral("base"));
     const QFont defaultFont = ThemeResources::getFont(QStringLiteral("medium"));
-    setProperty(widget, Property::CardTitleMinimizedFont, minimizedFont);
-    setProperty(widget, Property::CardTitleDefaultFont, defaultFont);
-    setPolishedFont(widget,
-                    isSet(widget.parent(), Property::Minimized) ? minimizedFont : defaultFont);
+    polishing.setProperty(Property::CardTitleMinimizedFont, minimizedFont);
+    polishing.setProperty(Property::CardTitleDefaultFont, defaultFont);
+    polishing.setFont(isSet(polishing.widget().parent(), Property::Minimized) ? minimizedFont
+                                                                              : defaultFont);
 }
 
-void polishSubtitle(QWidget &widget)
+void polishSubtitle(Polishing &polishing)
 {
-    QPalette palette = widget.palette();
-    palette.setBrush(QPalette::All, QPalette::WindowText,
-                     themeBrush(BrushName::ForegroundDisabledBrush, true));
-    palette.setBrush(QPalette::Disabled, QPalette::WindowText,
-                     themeBrush(BrushName::ForegroundDisabledBrush, false));
-    widget.setPalette(palette);
+    polishing.setBrushes(QPalette::WindowText, themeBrush(BrushName::ForegroundDisabledBrush, true),
+                         themeBrush(BrushName::ForegroundDisabledBrush, false));
 }
 
-void polishCard(QWidget &widget)
+void polishCard(Polishing &polishing)
 {
-    setProperty(widget, Property::BackgroundBrush,
-                themeBrush(BrushName::ForegroundMouseOverBrush, true));
-    setProperty(widget, Property::BackgroundBrushDisabled,
-                themeBrush(BrushName::ForegroundMouseOverBrush, false));
+    polishing.setProperty(Property::BackgroundBrush,
+                          themeBrush(BrushName::ForegroundMouseOverBrush, true));
+    polishing.setProperty(Property::BackgroundBrushDisabled,
+                          themeBrush(BrushName::ForegroundMouseOverBrush, false));
 }
 
 bool drawPart(const PaintRequest &request)

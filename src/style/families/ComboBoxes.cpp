@@ -11,7 +11,9 @@
 #include "style/drawing/Focus.h"
 #include "style/drawing/Icons.h"
 #include "style/drawing/Shapes.h"
+#include "style/families/ComboBoxLists.h"
 #include "style/families/buttons/PushButtons.h"
+#include "style/polishing/Polishing.h"
 #include "style/text/ElidedText.h"
 
 #include <QtGui/QPainter>
@@ -255,6 +257,16 @@ QRect subControlRect(const SubControlRequest &request)
     }
 }
 
+QRect subControlRectWithList(const SubControlRequest &request)
+{
+    const auto *comboBox = qobject_cast<const QComboBox *>(request.widget);
+    if (comboBox && request.subControl == QStyle::SC_ComboBoxListBoxPopup) {
+        // It is about to be placed, for which its items are measured.
+        polishListOf(*comboBox);
+    }
+    return subControlRect(request);
+}
+
 QSize comboBoxSize(const ContentsRequest &request)
 {
     ContentsRequest lower = request;
@@ -262,9 +274,10 @@ QSize comboBoxSize(const ContentsRequest &request)
     return {request.baseSize().width(), Buttons::pushButtonHeight(lower)};
 }
 
-void polishDelegate(QStyle &style, QWidget &widget)
+void polishDelegate(Polishing &polishing)
 {
-    auto &comboBox = static_cast<QComboBox &>(widget);
+    QStyle &style = polishing.style();
+    auto &comboBox = static_cast<QComboBox &>(polishing.widget());
     const QAbstractItemDelegate *delegate = comboBox.itemDelegate();
     // A style that the combo box had before takes its delegates with it.
     const bool isOfFormerStyle =

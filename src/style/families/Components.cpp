@@ -3,7 +3,7 @@
 #include "catalogue/Names.h"
 #include "resources/ThemeResources.h"
 #include "style/asking/Properties.h"
-#include "style/text/WidgetFont.h"
+#include "style/polishing/Polishing.h"
 
 #include <QtGui/QPixmap>
 #include <QtWidgets/QWidget>
@@ -19,16 +19,16 @@ constexpr ColorName seriesColorNames[] = {
     ColorName::Series10Color, ColorName::Series11Color,
 };
 
-/// Hands \a widget \a brush and its disabled twin.
-void setBrushes(QWidget &widget, Property property, Property twin, BrushName brush)
+/// Hands the widget \a brush and its disabled twin.
+void setBrushes(Polishing &polishing, Property property, Property twin, BrushName brush)
 {
-    setProperty(widget, property, themeBrush(brush, true));
-    setProperty(widget, twin, themeBrush(brush, false));
+    polishing.setProperty(property, themeBrush(brush, true));
+    polishing.setProperty(twin, themeBrush(brush, false));
 }
 
-void setColor(QWidget &widget, Property property, ColorName color)
+void setColor(Polishing &polishing, Property property, ColorName color)
 {
-    setProperty(widget, property, themeColor(color, true));
+    polishing.setProperty(property, themeColor(color, true));
 }
 
 QList<QColor> seriesColors()
@@ -42,51 +42,51 @@ QList<QColor> seriesColors()
 
 } // namespace
 
-void polishContainer(QWidget &widget)
+void polishContainer(Polishing &polishing)
 {
-    setProperty(widget, Property::CornerRadius,
-                ThemeResources::getCornerRadius(QStringLiteral("BaseSize")));
+    polishing.setProperty(Property::CornerRadius,
+                          ThemeResources::getCornerRadius(QStringLiteral("BaseSize")));
 }
 
-void polishButtonGroup(QWidget &widget)
+void polishButtonGroup(Polishing &polishing)
 {
-    setBrushes(widget, Property::BackgroundBrush, Property::BackgroundBrushDisabled,
+    setBrushes(polishing, Property::BackgroundBrush, Property::BackgroundBrushDisabled,
                BrushName::ListBackgroundBrush);
-    setBrushes(widget, Property::BorderBrush, Property::BorderBrushDisabled,
+    setBrushes(polishing, Property::BorderBrush, Property::BorderBrushDisabled,
                BrushName::ListBorderBrush);
-    setBrushes(widget, Property::WorkflowLinkBrush, Property::WorkflowLinkBrushDisabled,
+    setBrushes(polishing, Property::WorkflowLinkBrush, Property::WorkflowLinkBrushDisabled,
                BrushName::PrioritySecondaryUpLevel1Brush);
 }
 
-void polishRoundedPixmap(QWidget &widget)
+void polishRoundedPixmap(Polishing &polishing)
 {
-    const QVariant pixmap = propertyOf(&widget, Property::RoundedPixmap);
+    const QVariant pixmap = propertyOf(&polishing.widget(), Property::RoundedPixmap);
     if (pixmap.userType() != QMetaType::QPixmap || pixmap.value<QPixmap>().isNull()) {
         return;
     }
-    setProperty(widget, Property::BorderBrush,
-                themeBrush(BrushName::BackgroundSubLevel1Brush, true));
-    setProperty(widget, Property::CornerRadius,
-                ThemeResources::getCornerRadius(QStringLiteral("MediumSize")));
+    polishing.setProperty(Property::BorderBrush,
+                          themeBrush(BrushName::BackgroundSubLevel1Brush, true));
+    polishing.setProperty(Property::CornerRadius,
+                          ThemeResources::getCornerRadius(QStringLiteral("MediumSize")));
 }
 
-void polishPill(QWidget &widget)
+void polishPill(Polishing &polishing)
 {
     QFont font = ThemeResources::getFont(QStringLiteral("small"));
     font.setWeight(QFont::Bold);
-    setPolishedFont(widget, font);
+    polishing.setFont(font);
 }
 
-void polishPeriodicTable(QWidget &widget)
+void polishPeriodicTable(Polishing &polishing)
 {
-    setColor(widget, Property::PeriodicTableBackgroundColor, ColorName::StatusConfigColor);
-    setColor(widget, Property::PeriodicTableBorderColor, ColorName::StatusConfigColor);
-    setColor(widget, Property::PeriodicTableForegroundColor, ColorName::ForegroundColor);
-    setColor(widget, Property::PeriodicTableForegroundSubLevelColor,
+    setColor(polishing, Property::PeriodicTableBackgroundColor, ColorName::StatusConfigColor);
+    setColor(polishing, Property::PeriodicTableBorderColor, ColorName::StatusConfigColor);
+    setColor(polishing, Property::PeriodicTableForegroundColor, ColorName::ForegroundColor);
+    setColor(polishing, Property::PeriodicTableForegroundSubLevelColor,
              ColorName::ForegroundSubLevel1Color);
-    setColor(widget, Property::PeriodicTableForegroundUpLevelColor,
+    setColor(polishing, Property::PeriodicTableForegroundUpLevelColor,
              ColorName::ForegroundUpLevel1Color);
-    setProperty(widget, Property::PeriodicTableColorList, QVariant::fromValue(seriesColors()));
+    polishing.setProperty(Property::PeriodicTableColorList, QVariant::fromValue(seriesColors()));
 }
 
 } // namespace TARN::Components

@@ -1,14 +1,16 @@
 #pragma once
 
-class QWidget;
+namespace TARN {
+class Polishing;
+}
 
 /// The application's components, which paint themselves with what they are handed as properties.
 namespace TARN::Components {
 
-void polishContainer(QWidget &widget);
-void polishButtonGroup(QWidget &widget);
-void polishRoundedPixmap(QWidget &widget);
-void polishPill(QWidget &widget);
-void polishPeriodicTable(QWidget &widget);
+void polishContainer(Polishing &polishing);
+void polishButtonGroup(Polishing &polishing);
+void polishRoundedPixmap(Polishing &polishing);
+void polishPill(Polishing &polishing);
+void polishPeriodicTable(Polishing &polishing);
 
 } // namespace TARN::Components

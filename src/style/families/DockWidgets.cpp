@@ -6,6 +6,7 @@
 #include "style/brushes/KeptBrushes.h"
 #include "style/drawing/Grips.h"
 #include "style/drawing/Lines.h"
+#include "style/polishing/Polishing.h"
 
 #include <QtGui/QPainter>
 #include <QtWidgets/QDockWidget>
@@ -96,9 +97,9 @@ void drawText(const PaintRequest &request, const QStyleOptionDockWidget &title,
 
 } // namespace
 
-void polish(QWidget &widget)
+void polish(Polishing &polishing)
 {
-    widget.setAttribute(Qt::WA_StyledBackground);
+    polishing.setAttribute(Qt::WA_StyledBackground);
 }
 
 bool drawBackground(const PaintRequest &request)

@@ -2,10 +2,14 @@
 
 #include "style/asking/Requests.h"
 
+namespace TARN {
+class Polishing;
+}
+
 /// Dock widgets.
 namespace TARN::DockWidgets {
 
-void polish(QWidget &widget);
+void polish(Polishing &polishing);
 /// Paints the ground of a dock; anything else is none.
 bool drawBackground(const PaintRequest &request);
 bool drawTitle(const PaintRequest &request);

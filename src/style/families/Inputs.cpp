@@ -9,6 +9,7 @@
 #include "style/brushes/KeptBrushes.h"
 #include "style/drawing/Shapes.h"
 #include "style/families/buttons/PushButtons.h"
+#include "style/polishing/Polishing.h"
 #include "style/watching/ButtonIcons.h"
 
 #include <QtGui/QPainter>
@@ -143,9 +144,9 @@ QSize lineEditSize(const ContentsRequest &request)
     return {request.baseSize().width(), Buttons::pushButtonHeight(request)};
 }
 
-void polishClearButton(QStyle &style, QWidget &widget)
+void polishClearButton(Polishing &polishing)
 {
-    tintOnPaint(style, widget);
+    tintOnPaint(polishing);
 }
 
 bool drawFrame(const PaintRequest &request)

@@ -5,14 +5,16 @@
 #include <QtCore/QRect>
 #include <QtGui/QBrush>
 
-class QWidget;
+namespace TARN {
+class Polishing;
+}
 
 /// Line edits and text edits.
 namespace TARN::Inputs {
 
 QSize lineEditSize(const ContentsRequest &request);
 
-void polishClearButton(QStyle &style, QWidget &widget);
+void polishClearButton(Polishing &polishing);
 
 bool drawFrame(const PaintRequest &request);
 bool drawLineEditFrame(const PaintRequest &request);

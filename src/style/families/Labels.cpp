@@ -1,13 +1,15 @@
 #include "style/families/Labels.h"
 
 #include "catalogue/Names.h"
+#include "style/polishing/Polishing.h"
 
 #include <QtWidgets/QWidget>
 
 namespace TARN::Labels {
 
-void polishDisabledText(QWidget &widget)
+void polishDisabledText(Polishing &polishing)
 {
+    QWidget &widget = polishing.widget();
     QPalette palette = widget.palette();
     palette.setBrush(QPalette::Disabled, QPalette::WindowText,
                      themeBrush(BrushName::ForegroundBrush, false));

@@ -1,10 +1,12 @@
 #pragma once
 
-class QWidget;
+namespace TARN {
+class Polishing;
+}
 
 /// Labels.
 namespace TARN::Labels {
 
-void polishDisabledText(QWidget &widget);
+void polishDisabledText(Polishing &polishing);
 
 } // namespace TARN::Labels

@@ -6,6 +6,7 @@
 #include "style/drawing/Shapes.h"
 #include "style/families/BusyAnimation.h"
 #include "style/families/tabs/TabSides.h"
+#include "style/polishing/Polishing.h"
 
 #include <QtGui/QPainter>
 #include <QtWidgets/QProgressBar>
@@ -178,9 +179,12 @@ QSize progressBarSize(const ContentsRequest &request)
                                                                : QSize(0, thickness));
 }
 
-void polish(QWidget &widget)
+void polish(Polishing &polishing)
 {
-    static_cast<QProgressBar &>(widget).setTextDirection(QProgressBar::BottomToTop);
+    auto &bar = static_cast<QProgressBar &>(polishing.widget());
+    const QProgressBar::Direction former = bar.textDirection();
+    bar.setTextDirection(QProgressBar::BottomToTop);
+    polishing.addUndo([&bar, former] { bar.setTextDirection(former); });
 }
 
 bool drawGroove(const PaintRequest &request)

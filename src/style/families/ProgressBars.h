@@ -4,14 +4,16 @@
 
 #include <QtCore/QRect>
 
-class QWidget;
+namespace TARN {
+class Polishing;
+}
 
 /// Progress bars.
 namespace TARN::ProgressBars {
 
 QSize progressBarSize(const ContentsRequest &request);
 
-void polish(QWidget &widget);
+void polish(Polishing &polishing);
 
 bool drawGroove(const PaintRequest &request);
 bool drawContents(const PaintRequest &request);

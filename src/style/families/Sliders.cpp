@@ -8,6 +8,7 @@
 #include "style/drawing/Focus.h"
 #include "style/drawing/Lines.h"
 #include "style/drawing/Shapes.h"
+#include "style/polishing/Polishing.h"
 
 #include <QtGui/QPainter>
 #include <QtWidgets/QSlider>
@@ -320,18 +321,18 @@ QSize sliderSize(const ContentsRequest &request)
     return size;
 }
 
-void polishRangeSlider(QWidget &widget)
+void polishRangeSlider(Polishing &polishing)
 {
-    setProperty(widget, Property::Orientation, Qt::Horizontal);
-    setProperty(widget, Property::InvertedAppearance, false);
-    setProperty(widget, Property::InvertedControls, false);
-    setProperty(widget, Property::Tracking, true);
-    setProperty(widget, Property::TickPosition, 0);
+    polishing.setProperty(Property::Orientation, Qt::Horizontal);
+    polishing.setProperty(Property::InvertedAppearance, false);
+    polishing.setProperty(Property::InvertedControls, false);
+    polishing.setProperty(Property::Tracking, true);
+    polishing.setProperty(Property::TickPosition, 0);
     for (const RangeSliderBrush &row : rangeSliderBrushes) {
-        setProperty(widget, row.property, themeBrush(row.brush, row.enabled));
+        polishing.setProperty(row.property, themeBrush(row.brush, row.enabled));
     }
-    setProperty(widget, Property::CornerRadius,
-                ThemeResources::getCornerRadius(QStringLiteral("BaseSize")));
+    polishing.setProperty(Property::CornerRadius,
+                          ThemeResources::getCornerRadius(QStringLiteral("BaseSize")));
 }
 
 bool drawSlider(const PaintRequest &request)

@@ -4,7 +4,9 @@
 
 #include <QtCore/QRect>
 
-class QWidget;
+namespace TARN {
+class Polishing;
+}
 
 /// Sliders, among them range sliders.
 namespace TARN::Sliders {
@@ -12,7 +14,7 @@ namespace TARN::Sliders {
 QRect subControlRect(const SubControlRequest &request);
 QSize sliderSize(const ContentsRequest &request);
 
-void polishRangeSlider(QWidget &widget);
+void polishRangeSlider(Polishing &polishing);
 
 bool drawSlider(const PaintRequest &request);
 

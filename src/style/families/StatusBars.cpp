@@ -4,6 +4,7 @@
 #include "style/asking/OptionState.h"
 #include "style/brushes/KeptBrushes.h"
 #include "style/drawing/Lines.h"
+#include "style/polishing/Polishing.h"
 
 #include <QtGui/QPainter>
 #include <QtWidgets/QWidget>
@@ -16,9 +17,9 @@ constexpr int leastHeight = 34;
 
 } // namespace
 
-void polish(QWidget &widget)
+void polish(Polishing &polishing)
 {
-    widget.setMinimumHeight(leastHeight);
+    polishing.setMinimumHeight(leastHeight);
 }
 
 bool drawPanel(const PaintRequest &request)

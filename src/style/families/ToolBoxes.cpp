@@ -4,7 +4,9 @@
 #include "style/asking/OptionState.h"
 #include "style/brushes/KeptBrushes.h"
 #include "style/drawing/Lines.h"
+#include "style/polishing/Polishing.h"
 
+#include <QtCore/QPointer>
 #include <QtGui/QPainter>
 #include <QtWidgets/QLayout>
 #include <QtWidgets/QStyleOption>
@@ -26,17 +28,27 @@ bool hasTopLine(const QStyleOptionToolBox &tab)
 
 } // namespace
 
-void polishButton(QWidget &widget)
+void polishButton(Polishing &polishing)
 {
-    widget.setMinimumHeight(leastButtonHeight);
+    polishing.setMinimumHeight(leastButtonHeight);
 }
 
-void polishToolBox(QWidget &widget)
+void polishToolBox(Polishing &polishing)
 {
-    if (QLayout *layout = widget.layout()) {
-        layout->setContentsMargins(0, 0, 0, 0);
-        layout->setSpacing(0);
+    QLayout *layout = polishing.widget().layout();
+    if (!layout) {
+        return;
     }
+    const QMargins margins = layout->contentsMargins();
+    const int spacing = layout->spacing();
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    polishing.addUndo([layout = QPointer<QLayout>(layout), margins, spacing] {
+        if (layout && layout->contentsMargins().isNull() && layout->spacing() == 0) {
+            layout->setContentsMargins(margins);
+            layout->setSpacing(spacing);
+        }
+    });
 }
 
 bool drawTabShape(const PaintRequest &request)

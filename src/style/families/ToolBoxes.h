@@ -2,13 +2,15 @@
 
 #include "style/asking/Requests.h"
 
-class QWidget;
+namespace TARN {
+class Polishing;
+}
 
 /// Tool boxes.
 namespace TARN::ToolBoxes {
 
-void polishButton(QWidget &widget);
-void polishToolBox(QWidget &widget);
+void polishButton(Polishing &polishing);
+void polishToolBox(Polishing &polishing);
 
 bool drawTabShape(const PaintRequest &request);
 

@@ -5,7 +5,9 @@
 #include "style/drawing/Lines.h"
 #include "style/families/Cards.h"
 #include "style/families/DockWidgets.h"
+#include "style/polishing/Polishing.h"
 
+#include <QtCore/QPointer>
 #include <QtGui/QPainter>
 #include <QtWidgets/QAbstractScrollArea>
 #include <QtWidgets/QDockWidget>
@@ -13,25 +15,34 @@
 
 namespace TARN::Windows {
 
-void polishScrollArea(QWidget &widget)
+void polishScrollArea(Polishing &polishing)
 {
-    // What only says that it is a scroll area may have no viewport.
-    if (const auto *area = qobject_cast<QAbstractScrollArea *>(&widget)) {
-        area->viewport()->setBackgroundRole(QPalette::Light);
+    const auto *area = qobject_cast<QAbstractScrollArea *>(&polishing.widget());
+    if (!area) {
+        // What only says that it is a scroll area may have no viewport.
+        return;
+    }
+    area->viewport()->setBackgroundRole(QPalette::Light);
+    polishing.addUndo([viewport = QPointer<QWidget>(area->viewport())] {
+        if (viewport && viewport->backgroundRole() == QPalette::Light) {
+            // That of what it stands on.
+            viewport->setBackgroundRole(QPalette::NoRole);
+        }
+    });
+}
+
+void polishMainWindow(Polishing &polishing)
+{
+    if (polishing.widget().isWindow()) {
+        polishing.setAttribute(Qt::WA_StyledBackground);
     }
 }
 
-void polishMainWindow(QWidget &widget)
+void polishWindow(Polishing &polishing)
 {
-    if (widget.isWindow()) {
-        widget.setAttribute(Qt::WA_StyledBackground);
-    }
-}
-
-void polishWindow(QStyle &style, QWidget &widget)
-{
-    if (widget.isWindow() || qobject_cast<QDockWidget *>(&widget)) {
-        widget.installEventFilter(&style);
+    const QWidget &widget = polishing.widget();
+    if (widget.isWindow() || qobject_cast<const QDockWidget *>(&widget)) {
+        polishing.installEventFilter();
     }
 }
 

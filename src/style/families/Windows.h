@@ -2,16 +2,18 @@
 
 #include "style/asking/Requests.h"
 
-class QWidget;
+namespace TARN {
+class Polishing;
+}
 
 /// Windows, and the scroll areas that surround their contents.
 namespace TARN::Windows {
 
-void polishScrollArea(QWidget &widget);
-void polishMainWindow(QWidget &widget);
+void polishScrollArea(Polishing &polishing);
+void polishMainWindow(Polishing &polishing);
 
 /// Has the style hear Alt in a window, be it one now or, as a dock, at times.
-void polishWindow(QStyle &style, QWidget &widget);
+void polishWindow(Polishing &polishing);
 
 bool drawFrame(const PaintRequest &request);
 bool drawBackground(const PaintRequest &request);

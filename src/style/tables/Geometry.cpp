@@ -52,7 +52,7 @@ constexpr Row<QStyle::SubElement, SubElementRule> subElementTable[] = {
 
 constexpr Row<QStyle::ComplexControl, SubControlRule> subControlTable[] = {
     {QStyle::CC_SpinBox, SpinBoxes::subControlRect},
-    {QStyle::CC_ComboBox, ComboBoxes::subControlRect},
+    {QStyle::CC_ComboBox, ComboBoxes::subControlRect, ComboBoxes::subControlRectWithList},
     {QStyle::CC_ScrollBar, ScrollBars::subControlRect},
     {QStyle::CC_Slider, Sliders::subControlRect},
     {QStyle::CC_GroupBox, GroupBoxes::subControlRect},

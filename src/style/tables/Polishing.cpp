@@ -3,6 +3,7 @@
 #include "style/asking/Classes.h"
 #include "style/asking/Properties.h"
 #include "style/families/Cards.h"
+#include "style/families/ComboBoxLists.h"
 #include "style/families/ComboBoxes.h"
 #include "style/families/Components.h"
 #include "style/families/DockWidgets.h"
@@ -16,6 +17,8 @@
 #include "style/families/buttons/PushButtons.h"
 #include "style/families/item_views/ItemViews.h"
 #include "style/families/tabs/TabSizes.h"
+#include "style/polishing/PolishedWidgets.h"
+#include "style/polishing/Polishing.h"
 
 #include <QtWidgets/QAbstractItemView>
 #include <QtWidgets/QComboBox>
@@ -32,14 +35,19 @@ namespace TARN {
 
 namespace {
 
-void hearHovering(QWidget &widget)
+void hearHovering(Polishing &polishing)
 {
-    widget.setAttribute(Qt::WA_Hover);
+    polishing.setAttribute(Qt::WA_Hover);
 }
 
-void allowShadow(QWidget &widget)
+void allowShadow(Polishing &polishing)
 {
+    QWidget &widget = polishing.widget();
+    const bool hadNone = widget.windowFlags().testFlag(Qt::NoDropShadowWindowHint);
     widget.setWindowFlag(Qt::NoDropShadowWindowHint, false);
+    if (hadNone) {
+        polishing.addUndo([&widget] { widget.setWindowFlag(Qt::NoDropShadowWindowHint); });
+    }
 }
 
 /// The widgets that a rule is for.
@@ -84,12 +92,13 @@ constexpr Bearers marked(Property mark)
     return {nullptr, nullptr, mark};
 }
 
+enum class Modes { Both, Default, Complete };
+
 struct Rule
 {
     Bearers bearers;
-    void (*apply)(QWidget &widget);
-    /// Of those that have the style work on: it hears the widget, or owns what the widget gets.
-    void (*applyFor)(QStyle &style, QWidget &widget) = nullptr;
+    void (*apply)(Polishing &polishing);
+    Modes modes = Modes::Both;
 };
 
 // In the order in which they apply: later rules see what earlier ones did.
@@ -97,11 +106,13 @@ constexpr Rule rules[] = {
     {ofClass<QProgressBar>(), ProgressBars::polish},
     {like<QAbstractItemView>(), ItemViews::polishPalette},
     {like<QAbstractItemView>(), ItemViews::polishItems},
-    {named("QLabel"), Labels::polishDisabledText},
+    {ofClass<QAbstractItemView>(), ComboBoxes::polishList, Modes::Complete},
+    {named("QLabel"), Labels::polishDisabledText, Modes::Default},
     {like<QTabBar>(), hearHovering},
     {named("QGroupBox"), hearHovering},
-    {named("QTabWidget"), Tabs::polishFont},
-    {named("QTabBar"), Tabs::polishFont},
+    {named("QTabWidget"), Tabs::polishFont, Modes::Default},
+    {named("QTabBar"), Tabs::polishFont, Modes::Default},
+    {named("QTabBar"), Tabs::polishSizedFont, Modes::Complete},
     {named("QStatusBar"), StatusBars::polish},
     {like<QScrollArea>(), Windows::polishScrollArea},
     {like<QMainWindow>(), Windows::polishMainWindow},
@@ -112,7 +123,7 @@ constexpr Rule rules[] = {
     {marked(Property::CardTitle), Cards::polishTitle},
     {marked(Property::CardSubtitle), Cards::polishSubtitle},
     {named("TARN::Components::CardWidget"), Cards::polishCard},
-    {ofClass<QComboBox>(), nullptr, ComboBoxes::polishDelegate},
+    {ofClass<QComboBox>(), ComboBoxes::polishDelegate, Modes::Default},
     {marked(Property::ButtonGroupContainer), Components::polishContainer},
     {marked(Property::ColorButtonContainer), Components::polishContainer},
     {named("TARN::Components::ButtonGroupWidget"), Components::polishButtonGroup},
@@ -120,13 +131,13 @@ constexpr Rule rules[] = {
     {marked(Property::PillFont), Components::polishPill},
     {named("TARN::PeriodicTable::PeriodicTableView"), Components::polishPeriodicTable},
     {named("TARN::Components::RangeSlider"), Sliders::polishRangeSlider},
-    {like<QCommandLinkButton>(), nullptr, Buttons::polishCommandLink},
+    {like<QCommandLinkButton>(), Buttons::polishCommandLink},
     {allWidgets, allowShadow},
     {named("QToolBoxButton"), ToolBoxes::polishButton},
     {named("QToolBox"), ToolBoxes::polishToolBox},
-    {named("QLineEditIconButton"), nullptr, Inputs::polishClearButton},
+    {named("QLineEditIconButton"), Inputs::polishClearButton},
     // Alt is heard where key events end up when nobody takes them.
-    {allWidgets, nullptr, Windows::polishWindow},
+    {allWidgets, Windows::polishWindow},
 };
 
 bool concerns(const Rule &rule, const QWidget &widget)
@@ -141,20 +152,35 @@ bool concerns(const Rule &rule, const QWidget &widget)
     return !bearers.mark || isSet(&widget, *bearers.mark);
 }
 
-} // namespace
-
-void polishWidget(QStyle &style, QWidget &widget)
+void applyRules(Polishing &polishing, Modes otherMode)
 {
     for (const Rule &rule : rules) {
-        if (concerns(rule, widget)) {
-            rule.apply ? rule.apply(widget) : rule.applyFor(style, widget);
+        if (rule.modes != otherMode && concerns(rule, polishing.widget())) {
+            rule.apply(polishing);
         }
     }
 }
 
-void unpolishWidget(QWidget &widget)
+} // namespace
+
+void polishWidget(QStyle &style, QWidget &widget, Mode mode, PolishedWidgets &polished)
 {
-    if (isLike<QTabBar>(&widget) || isA(&widget, "QGroupBox")) {
+    if (mode == Mode::Default) {
+        Polishing polishing(style, widget, nullptr);
+        applyRules(polishing, Modes::Complete);
+        return;
+    }
+    Undo undo;
+    Polishing polishing(style, widget, &undo);
+    applyRules(polishing, Modes::Default);
+    polished.add(widget, undo);
+}
+
+void unpolishWidget(QWidget &widget, Mode mode, PolishedWidgets &polished)
+{
+    if (mode == Mode::Complete) {
+        polished.takeBack(widget);
+    } else if (isLike<QTabBar>(&widget) || isA(&widget, "QGroupBox")) {
         widget.setAttribute(Qt::WA_Hover, false);
     }
 }

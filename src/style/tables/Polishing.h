@@ -1,15 +1,20 @@
 #pragma once
 
+#include "style/asking/Mode.h"
+
 class QStyle;
 class QWidget;
 
 namespace TARN {
 
-/// Adapts \a widget to the theme: applies every rule of \a style that holds for it, in
-/// their order.
-void polishWidget(QStyle &style, QWidget &widget);
+class PolishedWidgets;
 
-/// Takes back what a widget must not keep when it leaves the style.
-void unpolishWidget(QWidget &widget);
+/// Adapts \a widget to the theme: applies every rule of \a style that holds for it, in their order.
+/// In the complete mode \a polished learns how to take it back.
+void polishWidget(QStyle &style, QWidget &widget, Mode mode, PolishedWidgets &polished);
+
+/// Takes back what \a widget must not keep when it leaves the style by default; in the complete
+/// mode, all that it was given.
+void unpolishWidget(QWidget &widget, Mode mode, PolishedWidgets &polished);
 
 } // namespace TARN

@@ -5,6 +5,7 @@
 #include "resources/ThemeColorHelper.h"
 #include "style/asking/OptionState.h"
 #include "style/asking/Properties.h"
+#include "style/polishing/Polishing.h"
 
 #include <QtGui/QPalette>
 #include <QtWidgets/QAction>
@@ -42,13 +43,36 @@ bool isOfAnAddedAction(const QToolButton &button)
     return action && action->objectName() != QLatin1String("_q_qlineeditclearaction");
 }
 
+/// Returns the icon that \a button had before it was tinted.
+QIcon originalIcon(const QAbstractButton &button)
+{
+    const auto *toolButton = qobject_cast<const QToolButton *>(&button);
+    return toolButton && toolButton->defaultAction()
+               ? toolButton->defaultAction()->icon()
+               : propertyOf(&button, Property::OriginalIcon).value<QIcon>();
+}
+
+void takeBackTint(QAbstractButton &button)
+{
+    if (propertyOf(&button, Property::TintedIcon).toLongLong() == button.icon().cacheKey()) {
+        button.setIcon(originalIcon(button));
+    }
+    for (const Property property :
+         {Property::IconTint, Property::TintedIcon, Property::OriginalIcon}) {
+        setProperty(button, property, QVariant());
+    }
+}
+
 } // namespace
 
-void tintOnPaint(QObject &filter, QWidget &widget)
+void tintOnPaint(Polishing &polishing)
 {
     // What a former style put on it came from another theme.
-    setProperty(widget, Property::IconTint, QVariant());
-    widget.installEventFilter(&filter);
+    setProperty(polishing.widget(), Property::IconTint, QVariant());
+    polishing.installEventFilter();
+    if (auto *button = qobject_cast<QAbstractButton *>(&polishing.widget())) {
+        polishing.addUndo([button] { takeBackTint(*button); });
+    }
 }
 
 void tintClearButton(QToolButton &button)

@@ -1,15 +1,15 @@
 #pragma once
 
 class QAbstractButton;
-class QObject;
 class QToolButton;
-class QWidget;
 
 namespace TARN {
 
-/// Has \a filter, which hands its events to watch(), tint the icon of the button \a widget whenever
-/// it is painted.
-void tintOnPaint(QObject &filter, QWidget &widget);
+class Polishing;
+
+/// Has the style, which hands its events to watch(), tint the icon of the button whenever it is
+/// painted.
+void tintOnPaint(Polishing &polishing);
 
 /// Gives the clear button of a line edit the theme's icon, in the colour of its state.
 void tintClearButton(QToolButton &button);

@@ -7,6 +7,7 @@
 #include "style/brushes/LabelBrushes.h"
 #include "style/drawing/Icons.h"
 #include "style/families/buttons/ButtonParts.h"
+#include "style/polishing/Polishing.h"
 #include "style/text/Mnemonic.h"
 #include "style/watching/ButtonIcons.h"
 
@@ -112,9 +113,9 @@ int pushButtonHeight(const ContentsRequest &request)
         .height();
 }
 
-void polishCommandLink(QStyle &style, QWidget &widget)
+void polishCommandLink(Polishing &polishing)
 {
-    tintOnPaint(style, widget);
+    tintOnPaint(polishing);
 }
 
 bool drawPushButton(const PaintRequest &request)

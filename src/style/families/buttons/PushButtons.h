@@ -2,7 +2,9 @@
 
 #include "style/asking/Requests.h"
 
-class QWidget;
+namespace TARN {
+class Polishing;
+}
 
 /// Push buttons and command links.
 namespace TARN::Buttons {
@@ -13,7 +15,7 @@ QSize pushButtonSize(const ContentsRequest &request);
 /// inputs are as high as a button with the same text.
 int pushButtonHeight(const ContentsRequest &request);
 
-void polishCommandLink(QStyle &style, QWidget &widget);
+void polishCommandLink(Polishing &polishing);
 
 bool drawPushButton(const PaintRequest &request);
 bool drawBevel(const PaintRequest &request);

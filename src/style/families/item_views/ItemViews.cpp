@@ -6,6 +6,7 @@
 #include "style/asking/OptionState.h"
 #include "style/asking/Properties.h"
 #include "style/drawing/Grips.h"
+#include "style/polishing/Polishing.h"
 
 #include <QtGui/QPainter>
 #include <QtWidgets/QListView>
@@ -158,35 +159,31 @@ QSize itemSize(const ContentsRequest &request)
     return request.baseSize().expandedTo(QSize(0, leastItemHeight));
 }
 
-void polishPalette(QWidget &widget)
+void polishPalette(Polishing &polishing)
 {
-    if (isSet(&widget, Property::CustomItemViewPalette)) {
-        return;
+    if (!isSet(&polishing.widget(), Property::CustomItemViewPalette)) {
+        polishing.setBrushes(QPalette::Base, themeBrush(BrushName::ItemViewBackgroundBrush, true),
+                             themeBrush(BrushName::ItemViewBackgroundBrush, false));
     }
-    QPalette palette = widget.palette();
-    palette.setBrush(QPalette::All, QPalette::Base,
-                     themeBrush(BrushName::ItemViewBackgroundBrush, true));
-    palette.setBrush(QPalette::Disabled, QPalette::Base,
-                     themeBrush(BrushName::ItemViewBackgroundBrush, false));
-    widget.setPalette(palette);
 }
 
-void polishItems(QWidget &widget)
+void polishItems(Polishing &polishing)
 {
+    const QWidget &widget = polishing.widget();
     if (isSet(&widget, Property::CustomItemDelegate)) {
         return;
     }
     if (!isA(&widget, "QTreeView")) {
-        setProperty(widget, Property::HighlightItemsOnMouseHover, true);
-        widget.setAttribute(Qt::WA_MouseTracking);
+        polishing.setProperty(Property::HighlightItemsOnMouseHover, true);
+        polishing.setAttribute(Qt::WA_MouseTracking);
     }
     if (!isA(&widget, "QTableView")) {
-        setProperty(widget, Property::DrawItemsSeparators, true);
+        polishing.setProperty(Property::DrawItemsSeparators, true);
     }
     if (isA(&widget, "QListView")) {
-        setProperty(widget, Property::DrawChildIndicatorInListView, true);
+        polishing.setProperty(Property::DrawChildIndicatorInListView, true);
     }
-    setProperty(widget, Property::HideFocusRect, true);
+    polishing.setProperty(Property::HideFocusRect, true);
 }
 
 bool showsHover(const QStyleOptionViewItem &option, const QWidget *widget)

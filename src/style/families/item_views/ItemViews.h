@@ -7,6 +7,10 @@
 class QStyleOptionViewItem;
 class QWidget;
 
+namespace TARN {
+class Polishing;
+}
+
 /// Lists, trees and tables.
 namespace TARN::ItemViews {
 
@@ -21,9 +25,9 @@ inline constexpr int listViewPaddingMetric = QStyle::PM_CustomBase + 1;
 int listViewPadding(const QStyle &proxy);
 
 /// Fills the background of the view from the theme, unless the view has a palette of its own.
-void polishPalette(QWidget &widget);
+void polishPalette(Polishing &polishing);
 /// Tells the view how its items are painted, unless it has a delegate of its own.
-void polishItems(QWidget &widget);
+void polishItems(Polishing &polishing);
 
 /// Tells whether the view marks the item because the mouse is over it.
 bool showsHover(const QStyleOptionViewItem &option, const QWidget *widget);

@@ -5,7 +5,7 @@
 #include "style/asking/Backgrounds.h"
 #include "style/asking/Properties.h"
 #include "style/families/tabs/TabSides.h"
-#include "style/text/WidgetFont.h"
+#include "style/polishing/Polishing.h"
 
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QStyleOption>
@@ -72,6 +72,13 @@ QString fontSize(const QWidget &widget)
         return QStringLiteral("small");
     }
     return isSet(&widget, Property::BaseTabSize) ? QStringLiteral("base") : applicationFontSize();
+}
+
+/// Tells whether \a widget, and not the application alone, says how large its tabs are.
+bool hasSize(const QWidget &widget)
+{
+    return isSet(&widget, Property::LargeTabSize) || isSet(&widget, Property::SmallTabSize) ||
+           isSet(&widget, Property::BaseTabSize);
 }
 
 bool isAtSide(const QTabWidget &tabWidget)
@@ -176,9 +183,25 @@ QSize tabSize(const ContentsRequest &request)
     return size;
 }
 
-void polishFont(QWidget &widget)
+void polishFont(Polishing &polishing)
 {
-    setPolishedFont(widget, ThemeResources::getFont(fontSize(widget)));
+    polishing.setFont(ThemeResources::getFont(fontSize(polishing.widget())));
+}
+
+void polishSizedFont(Polishing &polishing)
+{
+    const QWidget &tabBar = polishing.widget();
+    const QWidget *tabWidget = qobject_cast<const QTabWidget *>(tabBar.parentWidget());
+    if (hasSize(tabBar)) {
+        polishing.setFont(ThemeResources::getFont(fontSize(tabBar)));
+    } else if (tabWidget && hasSize(*tabWidget)) {
+        polishing.setFont(ThemeResources::getFont(fontSize(*tabWidget)));
+    }
+}
+
+QFont applicationFont()
+{
+    return ThemeResources::getFont(applicationFontSize());
 }
 
 } // namespace TARN::Tabs

@@ -1,0 +1,132 @@
+#include "style/polishing/Polishing.h"
+
+#include "style/asking/Properties.h"
+
+#include <QtGui/QFont>
+
+namespace TARN {
+
+namespace {
+
+constexpr QPalette::ColorGroup colorGroups[] = {QPalette::Active, QPalette::Inactive,
+                                                QPalette::Disabled};
+
+constexpr uint maskOf(QPalette::ColorRole role)
+{
+    return 1U << uint(role);
+}
+
+bool haveSameBrushes(const QPalette &left, const QPalette &right, QPalette::ColorRole role)
+{
+    return std::all_of(std::begin(colorGroups), std::end(colorGroups),
+                       [&](QPalette::ColorGroup group) {
+                           return left.brush(group, role) == right.brush(group, role);
+                       });
+}
+
+/// Has \a widget take \a role from where it stands again, if it still has what \a given has.
+void takeBackRole(QWidget &widget, const QPalette &given, QPalette::ColorRole role)
+{
+    QPalette palette = widget.palette();
+    if (haveSameBrushes(palette, given, role)) {
+        palette.resolve(palette.resolve() & ~maskOf(role));
+        widget.setPalette(palette);
+    }
+}
+
+/// Has \a widget take its font from where it stands again, if it still has \a given.
+void takeBackFont(QWidget &widget, const QFont &given)
+{
+    if (widget.font() == given) {
+        widget.setFont(QFont());
+    }
+}
+
+} // namespace
+
+void Polishing::addUndo(Undo::Step step)
+{
+    if (m_undo) {
+        m_undo->add(std::move(step));
+    }
+}
+
+void Polishing::setAttribute(Qt::WidgetAttribute attribute)
+{
+    if (m_widget.testAttribute(attribute)) {
+        return;
+    }
+    m_widget.setAttribute(attribute);
+    addUndo([&widget = m_widget, attribute] { widget.setAttribute(attribute, false); });
+}
+
+void Polishing::setProperty(Property property, const QVariant &value)
+{
+    if (!m_undo) {
+        TARN::setProperty(m_widget, property, value);
+        return;
+    }
+    const QVariant former = propertyOf(&m_widget, property);
+    if (former == value) {
+        return;
+    }
+    TARN::setProperty(m_widget, property, value);
+    addUndo([&widget = m_widget, property, value, former] {
+        if (propertyOf(&widget, property) == value) {
+            TARN::setProperty(widget, property, former);
+        }
+    });
+}
+
+void Polishing::setMinimumHeight(int height)
+{
+    const int former = m_widget.minimumHeight();
+    m_widget.setMinimumHeight(height);
+    addUndo([&widget = m_widget, height, former] {
+        if (widget.minimumHeight() == height) {
+            widget.setMinimumHeight(former);
+        }
+    });
+}
+
+void Polishing::setFont(const QFont &font)
+{
+    if (!m_undo) {
+        // A stylesheet gives widgets that leave it the font back that it knows; it is told of this
+        // one, or it would bring a former theme's back.
+        TARN::setProperty(m_widget, Property::StyleSheetFont, font);
+        m_widget.setFont(font);
+        return;
+    }
+    if (m_widget.testAttribute(Qt::WA_SetFont)) {
+        return;
+    }
+    m_widget.setFont(font);
+    addUndo([&widget = m_widget, given = m_widget.font()] { takeBackFont(widget, given); });
+}
+
+/// Tells whether the widget, or one that it stands on, was given \a role by somebody else.
+bool Polishing::isSetByProgram(QPalette::ColorRole role) const
+{
+    return (m_widget.palette().resolve() & maskOf(role)) != 0;
+}
+
+void Polishing::setBrushes(QPalette::ColorRole role, const QBrush &enabled, const QBrush &disabled)
+{
+    if (m_undo && isSetByProgram(role)) {
+        return;
+    }
+    QPalette palette = m_widget.palette();
+    palette.setBrush(QPalette::All, role, enabled);
+    palette.setBrush(QPalette::Disabled, role, disabled);
+    m_widget.setPalette(palette);
+    addUndo([&widget = m_widget, palette, role] { takeBackRole(widget, palette, role); });
+}
+
+void Polishing::installEventFilter()
+{
+    m_widget.installEventFilter(&m_style);
+    addUndo([&widget = m_widget, &style = m_style] { widget.removeEventFilter(&style); });
+}
+
+} // namespace TARN
