@@ -17,6 +17,7 @@
 #include "style/families/buttons/ButtonGroups.h"
 #include "style/families/buttons/ToolButtons.h"
 #include "style/families/item_views/ItemViews.h"
+#include "style/polishing/PaletteRoles.h"
 #include "style/polishing/PolishedWidgets.h"
 #include "style/tables/Geometry.h"
 #include "style/tables/Metrics.h"
@@ -32,8 +33,6 @@
 #include <QtWidgets/QStyleOption>
 #include <QtWidgets/QStyleOptionTab>
 #include <QtWidgets/QWidget>
-
-#include <utility>
 
 namespace TARN {
 
@@ -64,6 +63,7 @@ public:
     /// That of the theme which was applied when the style was made.
     const Mode mode = appliedTheme().mode;
     QPalette palette;
+    PaletteRoles paletteRoles{mode};
     PolishedWidgets polishedWidgets;
     AltKey altKey;
 };
@@ -107,7 +107,7 @@ QPalette BaseStyle::standardPalette() const
 
 void BaseStyle::polish(QPalette &pal)
 {
-    pal = m_state->palette;
+    m_state->paletteRoles.polish(pal, m_state->palette);
 }
 
 void BaseStyle::polish(QWidget *widget)

@@ -44,13 +44,15 @@ public:
     const QPalette &getPalette() const;
     /// Returns a copy of the style's palette.
     QPalette standardPalette() const override;
-    /// Replaces \a pal by the style's palette.
+    /// Replaces \a pal by the style's palette; in the complete mode but for the roles that a
+    /// program has set.
     void polish(QPalette &pal) override;
 
     /// Adapts \a widget to the theme: attributes, palette, fonts, and what custom widgets are
     /// handed as dynamic properties. Properties that it looks at are to be set before.
     void polish(QWidget *widget) override;
-    /// Takes back the hover attribute of tab bars and group boxes, and nothing else.
+    /// Takes back the hover attribute of tab bars and group boxes, and nothing else; in the
+    /// complete mode everything that polishing has changed, unless somebody has changed it since.
     void unpolish(QWidget *widget) override;
     void polish(QApplication *application) override;
     void unpolish(QApplication *application) override;
