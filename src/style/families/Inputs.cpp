@@ -144,6 +144,13 @@ QSize lineEditSize(const ContentsRequest &request)
     return {request.baseSize().width(), Buttons::pushButtonHeight(request)};
 }
 
+QSize lineEditSizeInside(const ContentsRequest &request)
+{
+    const QWidget *parent = request.widget ? request.widget->parentWidget() : nullptr;
+    return qobject_cast<const QAbstractSpinBox *>(parent) ? request.contents
+                                                          : lineEditSize(request);
+}
+
 void polishClearButton(Polishing &polishing)
 {
     tintOnPaint(polishing);

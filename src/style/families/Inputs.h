@@ -13,6 +13,8 @@ class Polishing;
 namespace TARN::Inputs {
 
 QSize lineEditSize(const ContentsRequest &request);
+/// The same; in a spin box, which has the frame, only as large as its contents.
+QSize lineEditSizeInside(const ContentsRequest &request);
 
 void polishClearButton(Polishing &polishing);
 

@@ -243,6 +243,13 @@ QRect subControlRect(const SubControlRequest &request)
     return request.baseRect();
 }
 
+QSize spinBoxSize(const ContentsRequest &request)
+{
+    // Fusion makes spin boxes lower than they are under a stylesheet, as which people know them.
+    return request.style.QCommonStyle::sizeFromContents(request.type, request.option,
+                                                        request.contents, request.widget);
+}
+
 bool drawMinus(const PaintRequest &request)
 {
     const Bars bars = signBars(request);

@@ -8,6 +8,8 @@
 namespace TARN::SpinBoxes {
 
 QRect subControlRect(const SubControlRequest &request);
+/// Returns the room for the text, the buttons and the frame.
+QSize spinBoxSize(const ContentsRequest &request);
 
 bool drawMinus(const PaintRequest &request);
 bool drawPlus(const PaintRequest &request);

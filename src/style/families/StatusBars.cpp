@@ -6,8 +6,11 @@
 #include "style/drawing/Lines.h"
 #include "style/polishing/Polishing.h"
 
+#include <QtCore/QTimer>
 #include <QtGui/QPainter>
 #include <QtWidgets/QWidget>
+
+#include <memory>
 
 namespace TARN::StatusBars {
 
@@ -20,6 +23,20 @@ constexpr int leastHeight = 34;
 void polish(Polishing &polishing)
 {
     polishing.setMinimumHeight(leastHeight);
+}
+
+void polishLater(Polishing &polishing)
+{
+    // A bar is polished while it is being made; then the layout, which is in the middle of its
+    // work, takes the height back.
+    const auto isWanted = std::make_shared<bool>(true);
+    QWidget &bar = polishing.widget();
+    QTimer::singleShot(0, &bar, [&bar, isWanted] {
+        if (*isWanted) {
+            bar.setMinimumHeight(leastHeight);
+        }
+    });
+    polishing.addUndo([isWanted] { *isWanted = false; });
 }
 
 bool drawPanel(const PaintRequest &request)

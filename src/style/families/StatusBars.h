@@ -9,7 +9,10 @@ class Polishing;
 /// Status bars.
 namespace TARN::StatusBars {
 
+/// Gives the bar its height.
 void polish(Polishing &polishing);
+/// Gives the bar its height again when its layout is done.
+void polishLater(Polishing &polishing);
 bool drawPanel(const PaintRequest &request);
 
 } // namespace TARN::StatusBars

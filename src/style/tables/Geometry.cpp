@@ -37,6 +37,8 @@ struct Row
     Rule ofModes[2];
 };
 
+constexpr std::nullptr_t leftToBaseStyle = nullptr;
+
 // An element with one rule has it in both modes; one with two, the second in the complete mode.
 
 constexpr Row<QStyle::SubElement, SubElementRule> subElementTable[] = {
@@ -62,7 +64,8 @@ constexpr Row<QStyle::ContentsType, ContentsRule> contentsTable[] = {
     {QStyle::CT_PushButton, Buttons::pushButtonSize},
     {QStyle::CT_ToolButton, ToolButtons::toolButtonSize},
     {QStyle::CT_ComboBox, ComboBoxes::comboBoxSize},
-    {QStyle::CT_LineEdit, Inputs::lineEditSize},
+    {QStyle::CT_SpinBox, leftToBaseStyle, SpinBoxes::spinBoxSize},
+    {QStyle::CT_LineEdit, Inputs::lineEditSize, Inputs::lineEditSizeInside},
     {QStyle::CT_ProgressBar, ProgressBars::progressBarSize},
     {QStyle::CT_TabBarTab, Tabs::tabSize},
     {QStyle::CT_Slider, Sliders::sliderSize},

@@ -114,6 +114,7 @@ constexpr Rule rules[] = {
     {named("QTabBar"), Tabs::polishFont, Modes::Default},
     {named("QTabBar"), Tabs::polishSizedFont, Modes::Complete},
     {named("QStatusBar"), StatusBars::polish},
+    {named("QStatusBar"), StatusBars::polishLater, Modes::Complete},
     {like<QScrollArea>(), Windows::polishScrollArea},
     {like<QMainWindow>(), Windows::polishMainWindow},
     {like<QDockWidget>(), DockWidgets::polish},
