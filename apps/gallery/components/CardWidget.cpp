@@ -50,7 +50,10 @@ CardPart *partWith(const char *mark, QWidget *widget, bool minimized)
 {
     auto *part = new CardPart(mark, minimized);
     part->add(widget);
-    part->setVisible(!minimized);
+    if (minimized) {
+        // Shown, it would be a window until it is part of the card, with the margins of one.
+        part->hide();
+    }
     return part;
 }
 
