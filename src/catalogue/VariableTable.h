@@ -1,5 +1,6 @@
 #pragma once
 
+#include "catalogue/WidgetColors.h"
 #include "catalogue/Words.h"
 #include "resources/variables/LookUps.h"
 #include "resources/variables/Snapshot.h"
@@ -20,9 +21,19 @@ public:
     using Value = typename Kind::Value;
 
     /// Returns the variable at \a index, whose name \a nameOf() returns; a default-constructed
-    /// value when there is none. Valid until the next ThemeGeneration starts.
+    /// value when there is none. While a widget is painted that has colours of its own, these.
+    /// Valid until the next ThemeGeneration starts.
     template <typename NameOf>
     const Value &value(std::size_t index, bool enabled, NameOf nameOf)
+    {
+        const Value &found = valueOfTheme(index, enabled, nameOf);
+        const WidgetColors *colors = WidgetColors::current();
+        return Q_LIKELY(!colors) ? found : colors->turned(found, nameOf());
+    }
+
+private:
+    template <typename NameOf>
+    const Value &valueOfTheme(std::size_t index, bool enabled, NameOf nameOf)
     {
         if (Q_UNLIKELY(m_generation != ThemeGeneration::current())) {
             m_values.fill(nullptr);
@@ -38,7 +49,6 @@ public:
         return *kept;
     }
 
-private:
     static const Value &none()
     {
         static const Value none{};

@@ -36,24 +36,6 @@
 
 namespace TARN {
 
-namespace {
-
-/// Draws what the base style draws, without finding the glyphs again; tells whether it could.
-bool drawPlainText(QPainter &painter, const QRect &rect, int flags, const QString &text,
-                   QPalette::ColorRole role, const QBrush &brush)
-{
-    if (role == QPalette::NoRole) {
-        return drawSingleLine(painter, rect, flags, text);
-    }
-    const QPen pen = painter.pen();
-    painter.setPen(outlinePen(brush));
-    const bool isDrawn = drawSingleLine(painter, rect, flags, text);
-    painter.setPen(pen);
-    return isDrawn;
-}
-
-} // namespace
-
 /// What a style keeps.
 class BaseStyle::State
 {
@@ -78,6 +60,10 @@ BaseStyle::BaseStyle()
     // These are looked up when a style is made, whether or not anything is painted with them.
     themeBrush(BrushName::ExpanderHeaderBrush, true);
     themeBrush(BrushName::BackgroundBrush, true);
+    if (m_state->mode == Mode::Complete && qApp) {
+        connect(qApp, &QGuiApplication::paletteChanged, this,
+                [this] { repolishWidgets(*this, m_state->mode, m_state->polishedWidgets); });
+    }
 }
 
 BaseStyle::~BaseStyle()
@@ -160,7 +146,7 @@ void BaseStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *opti
         return;
     }
     const PaintRule rule = paintRule(element, m_state->mode);
-    if (!rule || !paint(rule, {*this, option, painter, widget})) {
+    if (!rule || !paint(rule, {*this, option, painter, widget}, m_state->mode, m_state->palette)) {
         QProxyStyle::drawPrimitive(element, option, painter, widget);
     }
 }
@@ -172,7 +158,7 @@ void BaseStyle::drawControl(ControlElement element, const QStyleOption *option, 
         return;
     }
     const PaintRule rule = paintRule(element, m_state->mode);
-    if (!rule || !paint(rule, {*this, option, painter, widget})) {
+    if (!rule || !paint(rule, {*this, option, painter, widget}, m_state->mode, m_state->palette)) {
         QProxyStyle::drawControl(element, option, painter, widget);
     }
 }
@@ -184,7 +170,7 @@ void BaseStyle::drawComplexControl(ComplexControl control, const QStyleOptionCom
         return;
     }
     const PaintRule rule = paintRule(control, m_state->mode);
-    if (!rule || !paint(rule, {*this, option, painter, widget})) {
+    if (!rule || !paint(rule, {*this, option, painter, widget}, m_state->mode, m_state->palette)) {
         QProxyStyle::drawComplexControl(control, option, painter, widget);
     }
 }
@@ -195,7 +181,10 @@ void BaseStyle::drawItemText(QPainter *painter, const QRect &rect, int flags,
 {
     const QBrush brush =
         enabled ? palette.brush(textRole) : QBrush(palette.color(QPalette::Disabled, textRole));
-    if (drawsTextsItself(enabled) && drawPlainText(*painter, rect, flags, text, textRole, brush)) {
+    if (drawsTextsItself(enabled) &&
+        (textRole == QPalette::NoRole
+             ? drawSingleLine(*painter, rect, flags, text)
+             : drawSingleLine(*painter, rect, flags, text, outlinePen(brush)))) {
         return;
     }
     QPalette copy = palette;

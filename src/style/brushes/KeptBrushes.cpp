@@ -1,6 +1,7 @@
 #include "style/brushes/KeptBrushes.h"
 
 #include "catalogue/Names.h"
+#include "catalogue/WidgetColors.h"
 #include "resources/kept/KeptValue.h"
 
 namespace TARN {
@@ -12,6 +13,9 @@ namespace {
 template <BrushName Name>
 const QBrush &keptBrush(bool enabled)
 {
+    if (WidgetColors::current()) {
+        return themeBrush(Name, enabled);
+    }
     static ProcessCached<QBrush> enabledBrush([] { return themeBrush(Name, true); });
     static ProcessCached<QBrush> disabledBrush([] { return themeBrush(Name, false); });
     return enabled ? enabledBrush.value() : disabledBrush.value();

@@ -18,6 +18,7 @@ public:
     /// Takes back what \a widget was given.
     void takeBack(QWidget &widget);
     void takeBackAll();
+    QList<QWidget *> all() const { return m_undos.keys(); }
 
 private:
     QHash<QWidget *, Undo> m_undos;

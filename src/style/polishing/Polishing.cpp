@@ -3,6 +3,7 @@
 #include "style/asking/Properties.h"
 
 #include <QtGui/QFont>
+#include <QtWidgets/QApplication>
 
 namespace TARN {
 
@@ -105,10 +106,16 @@ void Polishing::setFont(const QFont &font)
     addUndo([&widget = m_widget, given = m_widget.font()] { takeBackFont(widget, given); });
 }
 
-/// Tells whether the widget, or one that it stands on, was given \a role by somebody else.
+/// Tells whether the widget, one that it stands on, its class or the application was given \a role
+/// by somebody else.
 bool Polishing::isSetByProgram(QPalette::ColorRole role) const
 {
-    return (m_widget.palette().resolve() & maskOf(role)) != 0;
+    uint mask = QApplication::palette(&m_widget).resolve();
+    for (const QWidget *widget = &m_widget; widget;
+         widget = widget->isWindow() ? nullptr : widget->parentWidget()) {
+        mask |= widget->palette().resolve();
+    }
+    return (mask & maskOf(role)) != 0;
 }
 
 void Polishing::setBrushes(QPalette::ColorRole role, const QBrush &enabled, const QBrush &disabled)

@@ -1,5 +1,6 @@
 #include "style/tables/Painting.h"
 
+#include "style/asking/ProgramColors.h"
 #include "style/families/Arrows.h"
 #include "style/families/CheckBoxes.h"
 #include "style/families/ComboBoxes.h"
@@ -94,7 +95,10 @@ PaintRule paintRule(QStyle::ComplexControl control, Mode mode)
     return ruleAt(complexControls, control, mode);
 }
 
-bool paint(PaintRule rule, const PaintRequest &request)
+namespace {
+
+/// Paints by \a rule and puts the painter's pen, brush and render hints back.
+bool paintAndRestore(PaintRule rule, const PaintRequest &request)
 {
     QPainter &painter = *request.painter;
     // The painter's own save() copies its whole state, which takes longer than many elements do.
@@ -110,6 +114,20 @@ bool paint(PaintRule rule, const PaintRequest &request)
     painter.setRenderHints(switchedOn, false);
     painter.setRenderHints(hints, true);
     return isPainted;
+}
+
+} // namespace
+
+bool paint(PaintRule rule, const PaintRequest &request, Mode mode, const QPalette &own)
+{
+    // A part without a widget of its own belongs to what is being painted.
+    const bool isPart = !request.widget && WidgetColors::current();
+    if (mode == Mode::Default || isPart) {
+        return paintAndRestore(rule, request);
+    }
+    const std::shared_ptr<const WidgetColors> colors = programColors(request, own);
+    const WidgetColors::Scope scope(colors.get());
+    return paintAndRestore(rule, request);
 }
 
 } // namespace TARN

@@ -20,7 +20,8 @@ PaintRule paintRule(QStyle::ControlElement element, Mode mode);
 PaintRule paintRule(QStyle::ComplexControl control, Mode mode);
 /// \}
 
-/// Paints by \a rule and puts the painter's pen, brush and render hints back.
-bool paint(PaintRule rule, const PaintRequest &request);
+/// Paints by \a rule and puts the painter's pen, brush and render hints back. In the complete mode
+/// a widget whose palette differs from \a own, the style's, is painted in the colours of its own.
+bool paint(PaintRule rule, const PaintRequest &request, Mode mode, const QPalette &own);
 
 } // namespace TARN

@@ -177,6 +177,15 @@ void polishWidget(QStyle &style, QWidget &widget, Mode mode, PolishedWidgets &po
     polished.add(widget, undo);
 }
 
+void repolishWidgets(QStyle &style, Mode mode, PolishedWidgets &polished)
+{
+    const QList<QWidget *> widgets = polished.all();
+    for (QWidget *widget : widgets) {
+        polished.takeBack(*widget);
+        polishWidget(style, *widget, mode, polished);
+    }
+}
+
 void unpolishWidget(QWidget &widget, Mode mode, PolishedWidgets &polished)
 {
     if (mode == Mode::Complete) {

@@ -166,4 +166,14 @@ bool drawSingleLine(QPainter &painter, const QRect &rect, int flags, const QStri
     return true;
 }
 
+bool drawSingleLine(QPainter &painter, const QRect &rect, int flags, const QString &text,
+                    const QPen &pen)
+{
+    const QPen former = painter.pen();
+    painter.setPen(pen);
+    const bool isDrawn = drawSingleLine(painter, rect, flags, text);
+    painter.setPen(former);
+    return isDrawn;
+}
+
 } // namespace TARN

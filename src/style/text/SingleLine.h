@@ -3,6 +3,7 @@
 #include <QtCore/QString>
 
 class QPainter;
+class QPen;
 class QRect;
 
 namespace TARN {
@@ -14,5 +15,9 @@ namespace TARN {
 /// times longer than drawing them; those of the texts that were not drawn for the longest time are
 /// dropped first.
 bool drawSingleLine(QPainter &painter, const QRect &rect, int flags, const QString &text);
+
+/// The same with \a pen instead of the painter's, which the painter keeps.
+bool drawSingleLine(QPainter &painter, const QRect &rect, int flags, const QString &text,
+                    const QPen &pen);
 
 } // namespace TARN
