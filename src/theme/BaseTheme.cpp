@@ -5,6 +5,8 @@
 #include "readers/xml/XmlFile.h"
 #include "resources/ThemeResources.h"
 #include "resources/variables/VariantMap.h"
+#include "style/families/tabs/TabSizes.h"
+#include "theme/ApplicationLook.h"
 #include "theme/CleanSwitch.h"
 #include "theme/StyleInstallation.h"
 #include "theme/ThemeFootprint.h"
@@ -33,12 +35,14 @@ void publishVariables(QApplication &app, const ThemeConfigurationReader &configu
     app.setProperty(ThemeResources::getThemeVariablePropertyName(), variables);
 }
 
-void addImages(ThemeFootprint &footprint, const QString &directory, const QString &name)
+void addImages(QApplication &app, const QString &directory, const QString &name)
 {
+    ThemeFootprint &footprint = ThemeFootprint::of(app);
     const QString imageThemes = directory + QLatin1String("/Images/");
     const QString images = imageThemes + name;
     const QString icons = images + QLatin1String("/scalable");
-    footprint.addIconTheme(imageThemes, name);
+    footprint.addIconThemes(imageThemes);
+    ApplicationLook::of(app).setIconTheme(name);
     footprint.addResourceFiles(icons);
     footprint.addSearchPath(ThemeResources::iconsPrefix(), icons);
     footprint.addSearchPath(ThemeResources::iconsPrefix(), QStringLiteral(":/Icons"));
@@ -77,6 +81,8 @@ void BaseTheme::customize(QApplication *app)
 
     ThemeFootprint &footprint = ThemeFootprint::of(*app);
     CleanSwitch cleanSwitch(*app, footprint);
+    ApplicationLook &look = ApplicationLook::of(*app);
+    look.begin(wantedMode(*app));
 
     cleanSwitch.addFonts(m_directory + QLatin1String("/Fonts"));
 
@@ -96,7 +102,7 @@ void BaseTheme::customize(QApplication *app)
     if (cleanSwitch.isActive()) {
         // Widgets that fetch icons from a new style are to get the theme's.
         cleanSwitch.takeBackImages();
-        addImages(footprint, m_directory, getName());
+        addImages(*app, m_directory, getName());
     }
     cleanSwitch.forgetLookUps();
 
@@ -106,18 +112,19 @@ void BaseTheme::customize(QApplication *app)
             qDebug() << "Error reading theme QPalette mapping file: " << mappingPath;
         }
         cleanSwitch.removeStyleSheet();
-        const Mode mode = wantedMode(*app);
-        installStyle(mapping.deserialize(), mode);
-        cleanSwitch.spreadFont(font);
-        if (mode == Mode::Default) {
+        installStyle(*app, mapping.deserialize());
+        if (wantedMode(*app) == Mode::Default) {
+            cleanSwitch.spreadFont(font);
             installStyleSheet(*app);
         }
     }
-    QApplication::setFont(font);
+    look.setFont(font);
 
     if (!cleanSwitch.isActive()) {
-        addImages(footprint, m_directory, getName());
+        addImages(*app, m_directory, getName());
     }
+    cleanSwitch.repeatChoices();
+    look.setTabFont(Tabs::applicationFont());
     cleanSwitch.finish();
 }
 

@@ -11,37 +11,18 @@
 
 namespace TARN {
 
-namespace {
-
-/// Returns the fonts that the application has chosen for the classes of its living widgets.
-QMap<QByteArray, QFont> chosenClassFonts()
-{
-    QMap<QByteArray, QFont> fonts;
-    const QFont applicationFont = QApplication::font();
-    const QWidgetList widgets = QApplication::allWidgets();
-    for (const QWidget *widget : widgets) {
-        for (const QMetaObject *type = widget->metaObject(); type; type = type->superClass()) {
-            const QFont font = QApplication::font(type->className());
-            if (!font.isCopyOf(applicationFont)) {
-                fonts.insert(type->className(), font);
-            }
-        }
-    }
-    return fonts;
-}
-
-} // namespace
-
 CleanSwitch::CleanSwitch(QApplication &app, ThemeFootprint &footprint)
     : m_app(app)
     , m_footprint(footprint)
+    , m_mode(wantedMode(app))
 {
-    if (!isSet(&app, Property::AppLiveThemeSwitch) && wantedMode(app) == Mode::Default) {
+    if (!isSet(&app, Property::AppLiveThemeSwitch) && m_mode == Mode::Default) {
         return;
     }
     m_followers.emplace();
-    if (!footprint.isEmpty()) {
-        m_classFonts = chosenClassFonts();
+    // By default an application's choices before the first theme make way for it.
+    if (!footprint.isEmpty() || m_mode == Mode::Complete) {
+        m_choices = ClassChoices::made();
     }
 }
 
@@ -91,7 +72,7 @@ void CleanSwitch::forgetLookUps()
 void CleanSwitch::removeStyleSheet()
 {
     m_styleIsNew = true;
-    if (wantedMode(m_app) == Mode::Complete) {
+    if (m_mode == Mode::Complete) {
         removeInstalledStyleSheet(m_app);
     } else if (isActive()) {
         m_app.setStyleSheet(QString());
@@ -105,11 +86,16 @@ void CleanSwitch::spreadFont(const QFont &font)
     }
 }
 
+void CleanSwitch::repeatChoices() const
+{
+    m_choices.makeFontsAgain();
+    if (m_mode == Mode::Complete) {
+        m_choices.makePalettesAgain();
+    }
+}
+
 void CleanSwitch::finish() const
 {
-    for (auto it = m_classFonts.cbegin(); it != m_classFonts.cend(); ++it) {
-        QApplication::setFont(it.value(), it.key().constData());
-    }
     if (isActive()) {
         m_followers->follow(m_styleIsNew);
     }

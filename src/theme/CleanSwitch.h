@@ -1,9 +1,9 @@
 #pragma once
 
+#include "style/asking/Mode.h"
+#include "theme/ClassChoices.h"
 #include "theme/following/Followers.h"
 
-#include <QtCore/QByteArray>
-#include <QtCore/QMap>
 #include <QtGui/QFont>
 #include <QtGui/QPalette>
 
@@ -16,8 +16,8 @@ namespace TARN {
 class ThemeFootprint;
 
 /// The clean switch of an application that sets "appLiveThemeSwitch": one application of a theme
-/// that leaves nothing of the themes before it. Without that property it does nothing, and
-/// themes add up.
+/// that leaves nothing of the themes before it. The complete mode implies it. Without either
+/// property it does nothing, and themes add up.
 ///
 /// Its phases are called in the order in which they stand here. Until one of them replaces it,
 /// everything of the former theme is in force: whoever is told of a step finds one theme or the
@@ -57,17 +57,20 @@ public:
     /// that of an application do not hear of a new application font.
     void spreadFont(const QFont &font);
 
-    /// To be called when all has been applied: gives the application back the fonts that it chose
-    /// for classes of widgets, which a change of the style or of the application font resets, and
-    /// has follow what does not do so by itself.
+    /// Gives the application back the fonts that it chose for classes of widgets, in the complete
+    /// mode the palettes as well: a change of the style or of the application font resets them.
+    void repeatChoices() const;
+
+    /// To be called when all has been applied: has follow what does not do so by itself.
     void finish() const;
 
 private:
     QApplication &m_app;
     ThemeFootprint &m_footprint;
+    Mode m_mode;
     bool m_styleIsNew = false;
     std::optional<Followers> m_followers;
-    QMap<QByteArray, QFont> m_classFonts;
+    ClassChoices m_choices;
 };
 
 } // namespace TARN

@@ -4,13 +4,13 @@
 #include "style/BaseStyle.h"
 #include "style/asking/AppliedTheme.h"
 #include "style/asking/Properties.h"
+#include "theme/ApplicationLook.h"
 #include "theme/ApplicationPalette.h"
 
 #include <QtCore/QDebug>
 #include <QtCore/QDirIterator>
 #include <QtCore/QFile>
 #include <QtWidgets/QApplication>
-#include <QtWidgets/QToolTip>
 
 #include <utility>
 
@@ -49,14 +49,17 @@ Mode wantedMode(const QApplication &app)
     return isSet(&app, Property::AppCompleteTheming) ? Mode::Complete : Mode::Default;
 }
 
-void installStyle(const QPalette &palette, Mode mode)
+void installStyle(QApplication &app, const QPalette &palette)
 {
+    const Mode mode = wantedMode(app);
     const QPalette completePalette = applicationPalette(palette, mode);
     setAppliedTheme({mode, completePalette});
     auto *style = new BaseStyle;
     style->setPalette(completePalette);
     QApplication::setStyle(style);
-    QToolTip::setPalette(completePalette);
+    ApplicationLook &look = ApplicationLook::of(app);
+    look.setToolTipPalette(completePalette);
+    look.leaveWith(*style);
 }
 
 void installStyleSheet(QApplication &app)

@@ -10,9 +10,9 @@ namespace TARN {
 /// Returns the mode that \a app asks for.
 Mode wantedMode(const QApplication &app);
 
-/// Gives the application a style with \a palette, whose disabled colours are derived. The theme's
+/// Gives \a app a style with \a palette, whose disabled colours are derived. The theme's
 /// variables must have been published.
-void installStyle(const QPalette &palette, Mode mode);
+void installStyle(QApplication &app, const QPalette &palette);
 
 /// Gives \a app the compiled-in stylesheets. The theme's variables must have been published.
 void installStyleSheet(QApplication &app);

@@ -83,11 +83,10 @@ void ThemeFootprint::replaceFonts(const QString &folder)
     m_isEmpty = false;
 }
 
-void ThemeFootprint::addIconTheme(const QString &folder, const QString &name)
+void ThemeFootprint::addIconThemes(const QString &folder)
 {
     QIcon::setThemeSearchPaths(QIcon::themeSearchPaths() << folder);
     additions().iconThemeFolders.append(folder);
-    QIcon::setThemeName(name);
 }
 
 void ThemeFootprint::addFallbackIcons(const QString &folder)

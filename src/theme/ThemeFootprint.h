@@ -36,8 +36,8 @@ public:
     /// byte, is there all the time.
     void replaceFonts(const QString &folder);
 
-    /// Has theme icons looked up in the icon themes below \a folder, of which \a name is current.
-    void addIconTheme(const QString &folder, const QString &name);
+    /// Has theme icons looked up in the icon themes below \a folder.
+    void addIconThemes(const QString &folder);
     /// Has icons that an icon theme lacks looked up in \a folder.
     void addFallbackIcons(const QString &folder);
     /// Registers the resource files "*.rcc" in \a folder.
