@@ -98,7 +98,7 @@ private Q_SLOTS:
         m_repository.makeFolder(text("Strange/Images/Strange/scalable"));
         QVERIFY(QFile::copy(text(MOX_TEST_RCC),
                             m_repository.path(text("Strange/Images/Strange/scalable/p.rcc"))));
-        qApp->setProperty("appLiveThemeSwitch", true);
+        qApp->setProperty(MOX_SWITCH_PROPERTY, true);
     }
 
     void looksLikeAFreshProcess_data()
@@ -252,12 +252,12 @@ private Q_SLOTS:
 
     void optingInLaterTakesEverythingBack()
     {
-        qApp->setProperty("appLiveThemeSwitch", false);
+        qApp->setProperty(MOX_SWITCH_PROPERTY, false);
         for (const char *name : {"Dark", "Light", "Strange"}) {
             apply(text(name));
         }
         QCOMPARE(QDir::searchPaths(text("icons")).size(), 6);
-        qApp->setProperty("appLiveThemeSwitch", true);
+        qApp->setProperty(MOX_SWITCH_PROPERTY, true);
         apply(text("Light"));
         QCOMPARE(QDir::searchPaths(text("icons")).size(), 2);
         QCOMPARE(QIcon::fallbackSearchPaths().count(text(":/icons")), 1);
@@ -279,7 +279,7 @@ private Q_SLOTS:
 
     void withoutThePropertyThemesAddUp()
     {
-        qApp->setProperty("appLiveThemeSwitch", QVariant());
+        qApp->setProperty(MOX_SWITCH_PROPERTY, QVariant());
         apply(text("Dark"));
         const QColor main = ThemeResources::getColor(text("MainColor"));
         apply(text("Strange"));

@@ -10,7 +10,7 @@ QImage freshRendering(const QString &widgets, const QString &directory)
     const QTemporaryDir folder;
     const QString file = folder.filePath(text("rendering.png"));
     QProcess renderer;
-    renderer.start(text(MOX_RENDERER), {widgets, directory, file});
+    renderer.start(text(MOX_RENDERER), {widgets, directory, file, text(MOX_SWITCH_PROPERTY)});
     if (!renderer.waitForFinished(60000) || renderer.exitCode() != 0) {
         qWarning("The renderer failed: %s", renderer.readAllStandardError().constData());
     }

@@ -77,7 +77,7 @@ private Q_SLOTS:
     void initTestCase()
     {
         qRegisterMetaType<QMdiSubWindow *>();
-        qApp->setProperty("appLiveThemeSwitch", true);
+        qApp->setProperty(MOX_SWITCH_PROPERTY, true);
     }
 
     void nothingChangesButTheLooks()
