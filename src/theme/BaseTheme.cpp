@@ -82,7 +82,9 @@ void BaseTheme::customize(QApplication *app)
     ThemeFootprint &footprint = ThemeFootprint::of(*app);
     CleanSwitch cleanSwitch(*app, footprint);
     ApplicationLook &look = ApplicationLook::of(*app);
-    look.begin(wantedMode(*app));
+    const bool hasNativeStyle = qEnvironmentVariableIsSet("TARN_USE_NATIVE_STYLE");
+    const Mode mode = hasNativeStyle ? Mode::Default : wantedMode(*app);
+    look.begin(mode);
 
     cleanSwitch.addFonts(m_directory + QLatin1String("/Fonts"));
 
@@ -107,18 +109,24 @@ void BaseTheme::customize(QApplication *app)
     cleanSwitch.forgetLookUps();
 
     const QFont font = configuration.getFont().getFont(ThemeFont::Base);
-    if (!qEnvironmentVariableIsSet("TARN_USE_NATIVE_STYLE")) {
+    if (!hasNativeStyle) {
         if (mapping.getStatus() != ReadFine) {
             qDebug() << "Error reading theme QPalette mapping file: " << mappingPath;
         }
         cleanSwitch.removeStyleSheet();
+        if (mode == Mode::Complete) {
+            // Widgets with a stylesheet of their own take the font when the style changes.
+            look.setFont(font);
+        }
         installStyle(*app, mapping.deserialize());
-        if (wantedMode(*app) == Mode::Default) {
+        if (mode == Mode::Default) {
             cleanSwitch.spreadFont(font);
             installStyleSheet(*app);
         }
     }
-    look.setFont(font);
+    if (mode == Mode::Default) {
+        look.setFont(font);
+    }
 
     if (!cleanSwitch.isActive()) {
         addImages(*app, m_directory, getName());

@@ -38,7 +38,8 @@ void takeBackRole(QWidget &widget, const QPalette &given, QPalette::ColorRole ro
 /// Has \a widget take its font from where it stands again, if it still has \a given.
 void takeBackFont(QWidget &widget, const QFont &given)
 {
-    if (widget.font() == given) {
+    // What it leaves open follows the application's, which may be another one by now.
+    if (given.resolve(widget.font()) == widget.font()) {
         widget.setFont(QFont());
     }
 }
@@ -103,7 +104,7 @@ void Polishing::setFont(const QFont &font)
         return;
     }
     m_widget.setFont(font);
-    addUndo([&widget = m_widget, given = m_widget.font()] { takeBackFont(widget, given); });
+    addUndo([&widget = m_widget, font] { takeBackFont(widget, font); });
 }
 
 /// Tells whether the widget, one that it stands on, its class or the application was given \a role

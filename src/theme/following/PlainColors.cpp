@@ -20,8 +20,11 @@ QPalette inheritedPalette(const QWidget &widget)
 /// a role for all of its groups or for none.
 bool isPlain(const QLabel &label)
 {
-    return label.palette().brush(QPalette::Active, QPalette::WindowText) ==
-           inheritedPalette(label).brush(QPalette::Active, QPalette::WindowText);
+    const QPalette &palette = label.palette();
+    const bool saysSoItself = (palette.resolve() & (1U << QPalette::WindowText)) != 0;
+    return saysSoItself &&
+           palette.brush(QPalette::Active, QPalette::WindowText) ==
+               inheritedPalette(label).brush(QPalette::Active, QPalette::WindowText);
 }
 
 /// Gives \a label the text colour of what it stands on.

@@ -297,13 +297,13 @@ QLayout *messages()
 QTabWidget *iconTabs()
 {
     auto *tabs = new QTabWidget;
+    tabs->setProperty("largeTabSize", true);
+    tabs->tabBar()->setProperty("smallTabSize", true);
     // A tab bar sizes the buttons of its tabs when they are added.
     tabs->tabBar()->ensurePolished();
     tabs->setTabsClosable(true);
     tabs->addTab(new QListWidget, applicationIcon(), text("Icon"));
     tabs->addTab(new QLabel, QIcon::fromTheme(text("action.close")), text("Theme icon"));
-    tabs->setProperty("largeTabSize", true);
-    tabs->tabBar()->setProperty("smallTabSize", true);
     return tabs;
 }
 
