@@ -56,6 +56,9 @@ void ApplicationLook::begin(Mode mode)
     m_style = nullptr;
     if (mode == Mode::Default) {
         giveBackFallback();
+    } else if (!m_toolTipPalette) {
+        // The toolkit makes it from the application's palette when somebody first asks for it.
+        m_plainToolTipPalette = QToolTip::palette();
     }
 }
 
@@ -96,11 +99,11 @@ void ApplicationLook::setIconTheme(const QString &name)
 void ApplicationLook::setToolTipPalette(const QPalette &palette)
 {
     const QPalette current = QToolTip::palette();
-    if (isChosen(current, current, m_toolTipPalette)) {
+    if (isChosen(current, m_plainToolTipPalette, m_toolTipPalette)) {
         m_toolTipPalette.reset();
         return;
     }
-    lend(m_toolTipPalette, current, palette);
+    lend(m_toolTipPalette, m_plainToolTipPalette, palette);
     QToolTip::setPalette(palette);
 }
 

@@ -69,6 +69,7 @@ private:
     std::optional<QFont> m_tabFont;
     std::optional<Loan<QString>> m_iconTheme;
     std::optional<Loan<QString>> m_fallbackTheme;
+    QPalette m_plainToolTipPalette;
     std::optional<Loan<QPalette>> m_toolTipPalette;
 };
 

@@ -35,11 +35,20 @@ void takeBackRole(QWidget &widget, const QPalette &given, QPalette::ColorRole ro
     }
 }
 
+/// Tells whether \a font has what \a given asks for. What that leaves open follows the
+/// application's font, which may be another one by now.
+bool fulfils(const QFont &font, const QFont &given)
+{
+    const uint asked = given.resolve();
+    return ((asked & QFont::FamilyResolved) == 0 || font.family() == given.family()) &&
+           ((asked & QFont::SizeResolved) == 0 || font.pointSizeF() == given.pointSizeF()) &&
+           ((asked & QFont::WeightResolved) == 0 || font.weight() == given.weight());
+}
+
 /// Has \a widget take its font from where it stands again, if it still has \a given.
 void takeBackFont(QWidget &widget, const QFont &given)
 {
-    // What it leaves open follows the application's, which may be another one by now.
-    if (given.resolve(widget.font()) == widget.font()) {
+    if (fulfils(widget.font(), given)) {
         widget.setFont(QFont());
     }
 }

@@ -8,6 +8,7 @@
 #include "style/drawing/Grips.h"
 #include "style/polishing/Polishing.h"
 
+#include <QtCore/QPointer>
 #include <QtGui/QPainter>
 #include <QtWidgets/QListView>
 
@@ -175,6 +176,13 @@ void polishItems(Polishing &polishing)
     }
     if (!isA(&widget, "QTreeView")) {
         polishing.setProperty(Property::HighlightItemsOnMouseHover, true);
+        // The area of the items follows the view.
+        QWidget *items = static_cast<QAbstractItemView &>(polishing.widget()).viewport();
+        polishing.addUndo([items = QPointer<QWidget>(items), former = items->hasMouseTracking()] {
+            if (items) {
+                items->setMouseTracking(former);
+            }
+        });
         polishing.setAttribute(Qt::WA_MouseTracking);
     }
     if (!isA(&widget, "QTableView")) {
