@@ -180,7 +180,7 @@ Options:
                            pictures (pictures: 1 unless given).
   --mode complete|default  Have the theme's style paint everything without an
                            application stylesheet, or leave to the toolkit what
-                           is left to it by default (default: default).
+                           is left to it by default (default: complete).
   -h, --help               Explain the options and exit.
   --version                Print the version and exit.
 

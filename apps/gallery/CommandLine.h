@@ -15,7 +15,7 @@ struct CommandLine
     QString repository;       ///< empty: the shipped one
     QString screenshotFolder; ///< set for Action::WriteScreenshots
     int scale = 0;            ///< 1 or 2; 0: not given
-    bool isComplete = false;  ///< everything is to be painted by the theme's style
+    bool isComplete = true;   ///< everything is to be painted by the theme's style
 
     /// The arguments that are none of the gallery's: mistakes, or options of the toolkit, which
     /// takes its own away when the application object is created.

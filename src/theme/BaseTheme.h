@@ -31,6 +31,15 @@ public:
     /// clean switch instead: kept values are dropped, the fonts, resource files and search paths
     /// of earlier themes are taken back, and every widget is polished and painted afresh. The
     /// application's own palettes, fonts, delegates and event filters are left alone.
+    ///
+    /// An application that sets its dynamic property "appCompleteTheming" to true gets, besides a
+    /// clean switch, no stylesheet: the style measures and paints everything itself. The
+    /// application's own stylesheet, and the palette roles, fonts and icon theme that it has chosen
+    /// before or since, stay. When the style leaves the application (another one is set, or it is
+    /// deleted), the application and its widgets get back what they had, but for what was changed
+    /// since. The property is read at each call: set later, it takes effect with the next theme,
+    /// which removes the stylesheet of the former one; set to false again, the next theme is applied
+    /// as by default.
     void customize(QApplication *app) override;
 
 private:

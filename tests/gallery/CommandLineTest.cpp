@@ -40,8 +40,11 @@ void CommandLineTest::valuesAreTakenFromTheNextArgumentOrBehindEquals()
                                   QStringLiteral("--screenshot"),
                                   folder,
                                   QStringLiteral("--scale"),
-                                  QStringLiteral("2")};
-    const QStringList joined = {QStringLiteral("--scale=2"),
+                                  QStringLiteral("2"),
+                                  QStringLiteral("--mode"),
+                                  QStringLiteral("default")};
+    const QStringList joined = {QStringLiteral("--mode=default"),
+                                QStringLiteral("--scale=2"),
                                 QString(QStringLiteral("--screenshot=") + folder),
                                 QString(QStringLiteral("--theme-repository=") + repository),
                                 QString(QStringLiteral("--theme=") + theme)};
@@ -53,6 +56,7 @@ void CommandLineTest::valuesAreTakenFromTheNextArgumentOrBehindEquals()
         QCOMPARE(result.repository, repository);
         QCOMPARE(result.screenshotFolder, folder);
         QCOMPARE(result.scale, 2);
+        QVERIFY(!result.isComplete);
         QVERIFY(result.unknown.isEmpty());
     }
 }

@@ -99,7 +99,7 @@ void GalleryTest::helpExplainsEveryOption()
         QCOMPARE(result.exitCode, 0);
         QCOMPARE(result.errors, QString());
         for (const char *name : {"--theme ", "--theme-repository ", "--screenshot ", "--scale ",
-                                 "--help", "--version"}) {
+                                 "--mode ", "--help", "--version"}) {
             QVERIFY2(result.output.contains(QString::fromLatin1(name)), name);
         }
     }
@@ -123,6 +123,8 @@ void GalleryTest::wrongUsageIsNamed_data()
                                           << "-x";
     QTest::newRow("positional argument") << "picture.png"
                                          << "picture.png";
+    QTest::newRow("wrong mode") << "--mode half"
+                                << "half";
     QTest::newRow("wrong scale") << "--scale 4"
                                  << "4";
     QTest::newRow("missing value") << "--screenshot"
