@@ -168,6 +168,20 @@ void polishPalette(Polishing &polishing)
     }
 }
 
+/// Has the area of the items, which follows the view, track the mouse as before when the view
+/// leaves the style.
+void keepTrackingOfItems(Polishing &polishing)
+{
+    if (const auto *view = qobject_cast<QAbstractItemView *>(&polishing.widget())) {
+        const QPointer<QWidget> items = view->viewport();
+        polishing.addUndo([items, former = items->hasMouseTracking()] {
+            if (items) {
+                items->setMouseTracking(former);
+            }
+        });
+    }
+}
+
 void polishItems(Polishing &polishing)
 {
     const QWidget &widget = polishing.widget();
@@ -176,13 +190,7 @@ void polishItems(Polishing &polishing)
     }
     if (!isA(&widget, "QTreeView")) {
         polishing.setProperty(Property::HighlightItemsOnMouseHover, true);
-        // The area of the items follows the view.
-        QWidget *items = static_cast<QAbstractItemView &>(polishing.widget()).viewport();
-        polishing.addUndo([items = QPointer<QWidget>(items), former = items->hasMouseTracking()] {
-            if (items) {
-                items->setMouseTracking(former);
-            }
-        });
+        keepTrackingOfItems(polishing);
         polishing.setAttribute(Qt::WA_MouseTracking);
     }
     if (!isA(&widget, "QTableView")) {
