@@ -7,7 +7,7 @@ readonly project_dir="$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)"
 
 # What the library, its programs and its tests are built with and run on.
 readonly build_packages=(
-  g++ cmake ninja-build ccache pkg-config qtbase5-dev libqt5svg5-dev fonts-dejavu-core
+  g++ cmake ninja-build ccache pkg-config qtbase5-dev libqt5svg5-dev zlib1g-dev fonts-dejavu-core
   libcli11-dev libtomlplusplus-dev libyaml-cpp-dev python3-jsonschema abigail-tools)
 
 say() {

@@ -96,8 +96,11 @@ public:
     /// the extension of any image format that Qt can read or as the name stands, gives the image.
     ///
     /// Each call searches and reads anew; who paints often keeps the result. A QGuiApplication has
-    /// to exist. An image of more than 2^28 pixels is only read at a given size. What is neither a
-    /// file nor a folder, such as a pipe, gives no image: reading it might never end.
+    /// to exist. What is neither a file nor a folder, such as a pipe, gives no image: reading it
+    /// might never end. Nor does a drawing (SVG) with a link to another file, or an image of too
+    /// many pixels: 2^24 for an icon, 2^22 for a cursor, 2^27 for a pixmap, of the file even where
+    /// it is scaled; drawings have pixels only where they are drawn at their own size. A warning
+    /// names such a file.
     /// \{
 
     /// Returns the icon \a name ("action.copy"); a null icon when there is none. Icons of the icon

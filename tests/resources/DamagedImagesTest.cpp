@@ -260,16 +260,20 @@ private Q_SLOTS:
         QCOMPARE(ThemeResources::getPixmap(text("large"), QSize(48, 48)).size(), QSize(48, 48));
         QCOMPARE(ThemeResources::getIcon(text("large")).pixmap(16).size(), iconSize);
 
+        MessageRecorder messages;
         const QSize expected = canBeUnscaled ? QSize(side, side) : QSize(0, 0);
         QCOMPARE(ThemeResources::getPixmap(text("large"), {}).size(), expected);
+        QCOMPARE(messages.take().size(), canBeUnscaled ? 0 : 1);
         if (!canBeUnscaled) {
             QVERIFY(isArrow(ThemeResources::getCursor(text("large"))));
+            QCOMPARE(messages.take().size(), 1);
         }
     }
 
     void oneSideOfALargeDrawing()
     {
         m_files->write(text("wide.svg"), svgFile("red", QSize(std::numeric_limits<int>::max(), 1)));
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(text("wide\\.svg is not used: .*")));
         QVERIFY(ThemeResources::getPixmap(text("wide"), {}).isNull());
         QCOMPARE(ThemeResources::getPixmap(text("wide"), iconSize).size(), iconSize);
     }

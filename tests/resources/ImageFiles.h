@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QtCore/QByteArray>
+#include <QtCore/QByteArrayList>
 #include <QtCore/QPoint>
 #include <QtCore/QSize>
 #include <QtGui/QColor>
@@ -11,6 +12,16 @@ QByteArray svgFile(const QByteArray &color, const QSize &size = QSize(16, 16));
 /// Returns a file in the raster format \a format that is filled with \a color.
 QByteArray rasterFile(const QColor &color, const char *format = "PNG",
                       const QSize &size = QSize(16, 16));
+
+/// Returns a file in the PNG format that is black and takes few bytes, be \a size as large as it
+/// is.
+QByteArray largePng(const QSize &size);
+
+/// Returns an icon file of the pictures \a pictures, whose sizes it tells wrongly.
+QByteArray iconFile(const QByteArrayList &pictures);
+
+/// Returns \a content as gzip compresses it.
+QByteArray gzipped(const QByteArray &content);
 
 /// A Windows cursor file of one image with 32 bits per pixel, filled with a colour. What the file
 /// declares of the image can differ from the image that it holds.

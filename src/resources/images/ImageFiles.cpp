@@ -1,9 +1,14 @@
 #include "resources/images/ImageFiles.h"
 
+#include "resources/files/AllowedPicture.h"
+#include "resources/files/FileLimits.h"
+
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 #include <QtCore/QPoint>
+#include <QtCore/QtMath>
+#include <QtGui/QGuiApplication>
 #include <QtGui/QImageReader>
 
 #include <array>
@@ -61,33 +66,42 @@ QString findIconPath(const QString &name)
     return findImagePath(name, iconsPrefix());
 }
 
-/// Tells whether an image of \a size is none that anybody drew: it would take more than a gigabyte.
-bool isTooLarge(const QSize &size)
+/// Returns the image at \a path, at its own size when \a scaledSize is invalid; a null pixmap when
+/// it has more than \a mostPixels. QPixmap's constructor would give an earlier content of the file
+/// when it was replaced within a second.
+QPixmap readPixmap(const QString &path, const QSize &scaledSize, qint64 mostPixels)
 {
-    constexpr qint64 mostPixels = 1 << 28;
-    return qint64(size.width()) * size.height() > mostPixels;
-}
-
-/// Tells whether \a path is that of a pipe or a device, which keep whoever reads them waiting.
-bool isSpecial(const QString &path)
-{
-    const QFileInfo info(path);
-    return info.exists() && !info.isFile() && !info.isDir();
-}
-
-/// Returns the image at \a path, at its own size when \a scaledSize is invalid. QPixmap's
-/// constructor would give an earlier content of the file when it was replaced within a second.
-QPixmap readPixmap(const QString &path, const QSize &scaledSize)
-{
-    if (!QFile::exists(path) || isSpecial(path)) {
+    if (!QFile::exists(path) || !isAllowedPicture(path, {mostPixels, !scaledSize.isValid()})) {
         return {};
     }
     QImageReader reader(path);
-    if (!scaledSize.isValid() && isTooLarge(reader.size())) {
-        return {};
-    }
     reader.setScaledSize(scaledSize);
     return QPixmap::fromImageReader(&reader);
+}
+
+/// Tells whether the toolkit may make an icon of the file at \a path.
+bool isAllowedIcon(const QString &path)
+{
+    // What is compiled in is ours, and what a resource file brings was looked at when it came.
+    return path.startsWith(QLatin1Char(':')) ||
+           isAllowedPicture(path, {FileLimits::iconPixels, false});
+}
+
+/// The same for the variants of \a path that the toolkit takes as well on fine screens.
+bool areAllowedVariants(const QString &path)
+{
+    const auto *app = qobject_cast<QGuiApplication *>(QCoreApplication::instance());
+    constexpr int mostPixelRatio = 9;
+    const int ratio = app ? qMin(qCeil(app->devicePixelRatio()), mostPixelRatio) : 1;
+    const QFileInfo info(path);
+    const QString base = info.path() + QLatin1Char('/') + info.completeBaseName();
+    for (int each = 2; each <= ratio; ++each) {
+        const QString variant = QStringLiteral("%1@%2x.%3").arg(base).arg(each).arg(info.suffix());
+        if (QFile::exists(variant) && !isAllowedIcon(variant)) {
+            return false;
+        }
+    }
+    return true;
 }
 
 /// Reads the two-byte values of a cursor file's header, one after the other.
@@ -157,7 +171,8 @@ const QString &themeResourcesPrefix()
 QIcon icon(const QString &name)
 {
     const QString path = findIconPath(name);
-    return path.isEmpty() || isSpecial(path) ? QIcon() : QIcon(path);
+    const bool isUsable = !path.isEmpty() && isAllowedIcon(path) && areAllowedVariants(path);
+    return isUsable ? QIcon(path) : QIcon();
 }
 
 QStringList iconNames(const QRegularExpression &filter)
@@ -179,13 +194,13 @@ QStringList iconNames(const QRegularExpression &filter)
 
 QPixmap pixmap(const QString &name, const QSize &size)
 {
-    return readPixmap(findIconPath(name), size);
+    return readPixmap(findIconPath(name), size, FileLimits::picturePixels);
 }
 
 QCursor cursor(const QString &name)
 {
     const QString path = findImagePath(name, cursorsPrefix());
-    const QPixmap pixmap = readPixmap(path, QSize());
+    const QPixmap pixmap = readPixmap(path, QSize(), FileLimits::cursorPixels);
     if (pixmap.isNull()) {
         // The same cursor as Qt makes of a null pixmap, without the warning.
         return {};

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QtCore/QtGlobal>
+
+/// What the files of a theme may take at most. Whoever reads one holds to these, finds out before
+/// the memory is taken, and treats what is beyond them as what can't be read.
+namespace TARN::FileLimits {
+
+/// \name Pixels of a picture, which take four bytes each
+/// \{
+/// Of one that is asked for by name: 512 MiB, some 11,500 by 11,500 pixels.
+constexpr qint64 picturePixels = 1 << 27;
+/// Of an icon: 4096 by 4096. A drawing has none of its own here, it is drawn as large as it is
+/// asked for.
+constexpr qint64 iconPixels = 1 << 24;
+/// Of a cursor: 2048 by 2048.
+constexpr qint64 cursorPixels = 1 << 22;
+/// \}
+
+/// Bytes of a drawing, once it is decompressed.
+constexpr qint64 drawingBytes = 1 << 24;
+
+} // namespace TARN::FileLimits
