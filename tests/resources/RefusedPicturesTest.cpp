@@ -231,6 +231,28 @@ private Q_SLOTS:
         QVERIFY(areRefusals(messages.take(), text("larger.png")));
     }
 
+    /// A warning names the file as a person would, however it is asked for.
+    void pathsInWarnings_data()
+    {
+        QTest::addColumn<QString>("endOfFolder");
+        QTest::addColumn<QString>("name");
+        QTest::newRow("no slash") << QString() << "a";
+        QTest::newRow("the name begins with one") << QString() << "/a";
+        QTest::newRow("the folder ends with one") << "/"
+                                                  << "a";
+    }
+
+    void pathsInWarnings()
+    {
+        QFETCH(QString, endOfFolder);
+        QFETCH(QString, name);
+        QDir::setSearchPaths(text("icons"), {m_files->path() + endOfFolder});
+        const QString path = m_files->write(text("a.svg"), drawing(pictureIn("other.png")));
+        MessageRecorder messages;
+        QVERIFY(ThemeResources::getIcon(name).isNull());
+        QVERIFY(messages.take().first().contains(text(" ") + path + text(" ")));
+    }
+
     /// Mended, a file is used again.
     void changedFiles()
     {

@@ -99,6 +99,19 @@ private Q_SLOTS:
         QCOMPARE(QIcon::themeName(), text("B"));
     }
 
+    /// What a clean switch takes back is what themes have added, not the same of the application.
+    void searchPathsOfTheApplicationStay()
+    {
+        qApp->setProperty("appLiveThemeSwitch", true);
+        QDir::setSearchPaths(text("cursors"), {text(":/Cursors"), text("/own")});
+        BaseTheme(m_repository.addTheme(text("A"))).customize(qApp);
+        const QString b = m_repository.addTheme(text("B"));
+        BaseTheme(b).customize(qApp);
+        QCOMPARE(QDir::searchPaths(text("cursors")),
+                 QStringList({text(":/Cursors"), text("/own"), b + text("/Images/B/Cursors"),
+                              text(":/Cursors")}));
+    }
+
     void resourceFilesAreRegistered()
     {
         const QString directory = addTheme();
