@@ -1,10 +1,14 @@
 #include "readers/LinearGradientBrushReader.h"
 
 #include "readers/ConfigurationTags.h"
+#include "resources/files/FileLimits.h"
 
+#include <QtCore/QDebug>
 #include <QtCore/QVector>
 #include <QtGui/QLinearGradient>
 #include <QtXml/QDomElement>
+
+#include <optional>
 
 namespace {
 
@@ -17,6 +21,26 @@ QGradientStop readStop(const QDomElement &element, const QMap<QString, QColor> &
     const QColor color = colors.value(element.text());
     ok = ok && offsetOk && color.isValid();
     return {offset, color};
+}
+
+/// Returns the stops that \a element defines, and makes \a ok false when one of them is faulty.
+/// Returns nothing, with a warning, when there are more than any gradient has: putting them in
+/// order would take long.
+std::optional<QGradientStops> readStops(const QDomElement &element,
+                                        const QMap<QString, QColor> &colors, bool &ok)
+{
+    QGradientStops stops;
+    for (QDomElement stop = element.firstChildElement(TARN::GradientStopTag); !stop.isNull();
+         stop = stop.nextSiblingElement(TARN::GradientStopTag)) {
+        if (stops.size() == TARN::FileLimits::gradientStops) {
+            qWarning().noquote() << "The brush" << element.attribute(TARN::NameAttribute)
+                                 << "is not used: it has more than"
+                                 << TARN::FileLimits::gradientStops << "stops";
+            return std::nullopt;
+        }
+        stops.append(readStop(stop, colors, ok));
+    }
+    return stops;
 }
 
 } // namespace
@@ -48,14 +72,13 @@ QBrush LinearGradientBrushReader::readBrush(const QDomElement &element,
     const QPointF end = parsePoint(element.attribute(TARN::LinearGradientBrushEndAttribute), endOk);
     ok = startOk && endOk;
 
-    QGradientStops stops;
-    for (QDomElement stop = element.firstChildElement(TARN::GradientStopTag); !stop.isNull();
-         stop = stop.nextSiblingElement(TARN::GradientStopTag)) {
-        stops.append(readStop(stop, colors, ok));
+    const std::optional<QGradientStops> stops = readStops(element, colors, ok);
+    if (!stops) {
+        ok = false;
+        return {};
     }
-
     QLinearGradient gradient(start, end);
     gradient.setCoordinateMode(QGradient::ObjectBoundingMode);
-    gradient.setStops(stops);
+    gradient.setStops(*stops);
     return {gradient};
 }

@@ -133,6 +133,24 @@ private Q_SLOTS:
         QCOMPARE(ok, sound);
     }
 
+    void stopsOfAGradient()
+    {
+        const auto gradientOf = [](int stops) {
+            return element(
+                QStringLiteral("<LinearGradientBrush name='Many' startPoint='0,0' "
+                               "endPoint='0,1'>") +
+                QStringLiteral("<GradientStop offset='0'>Red</GradientStop>").repeated(stops) +
+                QStringLiteral("</LinearGradientBrush>"));
+        };
+        bool ok = false;
+        LinearGradientBrushReader().readBrush(gradientOf(1024), colors, ok);
+        QVERIFY(ok);
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("Many is not used")));
+        const QBrush brush = LinearGradientBrushReader().readBrush(gradientOf(1025), colors, ok);
+        QVERIFY(!ok);
+        QCOMPARE(brush, QBrush());
+    }
+
     void stopOutsideTheGradientIsLeftToTheGradient()
     {
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("range 0 to 1")));

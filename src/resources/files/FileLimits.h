@@ -20,4 +20,7 @@ constexpr qint64 cursorPixels = 1 << 22;
 /// Bytes of a drawing, once it is decompressed.
 constexpr qint64 drawingBytes = 1 << 24;
 
+/// Stops of a gradient: painting does not tell more of them apart.
+constexpr int gradientStops = 1024;
+
 } // namespace TARN::FileLimits
