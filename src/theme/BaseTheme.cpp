@@ -43,7 +43,7 @@ void addImages(QApplication &app, const QString &directory, const QString &name)
     const QString icons = images + QLatin1String("/scalable");
     footprint.addIconThemes(imageThemes);
     ApplicationLook::of(app).setIconTheme(name);
-    footprint.addResourceFiles(icons);
+    footprint.addResourceFiles(icons, name);
     footprint.addSearchPath(ThemeResources::iconsPrefix(), icons);
     footprint.addSearchPath(ThemeResources::iconsPrefix(), QStringLiteral(":/Icons"));
     // Spelled like this the fallback is not the compiled-in icon set; a theme's own resource file

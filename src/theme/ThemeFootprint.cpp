@@ -1,14 +1,18 @@
 #include "theme/ThemeFootprint.h"
 
+#include "resources/files/RegisteredArchive.h"
+#include "theme/StyleInstallation.h"
+
 #include <QtCore/QDir>
 #include <QtCore/QDirIterator>
 #include <QtCore/QMap>
-#include <QtCore/QResource>
 #include <QtCore/QStringList>
 #include <QtGui/QIcon>
 #include <QtWidgets/QApplication>
 
+#include <memory>
 #include <utility>
+#include <vector>
 
 namespace TARN {
 
@@ -17,7 +21,7 @@ namespace {
 /// The images that themes have added, which outlive the application.
 struct Additions
 {
-    QStringList resourceFiles;
+    std::vector<std::unique_ptr<RegisteredArchive>> resourceFiles;
     QStringList iconThemeFolders;
     QStringList fallbackIconFolders;
     QMap<QString, QStringList> searchPaths;
@@ -40,6 +44,14 @@ QStringList without(QStringList paths, const QStringList &added)
         }
     }
     return paths;
+}
+
+/// Returns the folders that the resource files of the theme \a name have a reason to add to. Other
+/// files could be taken for the program's own.
+QStringList resourceFolders(const QString &name)
+{
+    return {QStringLiteral(":/Icons"), QStringLiteral(":/icons"), QStringLiteral(":/Cursors"),
+            QStringLiteral(":/TARN/Themes/") + name};
 }
 
 } // namespace
@@ -95,13 +107,18 @@ void ThemeFootprint::addFallbackIcons(const QString &folder)
     additions().fallbackIconFolders.append(folder);
 }
 
-void ThemeFootprint::addResourceFiles(const QString &folder)
+void ThemeFootprint::addResourceFiles(const QString &folder, const QString &name)
 {
+    const bool isComplete = wantedMode(*qApp) == Mode::Complete;
+    const QStringList places = isComplete ? resourceFolders(name) : QStringList();
     QDirIterator entries(folder);
     while (entries.hasNext()) {
         const QString path = entries.next();
-        if (path.endsWith(QLatin1String(".rcc")) && QResource::registerResource(path)) {
-            additions().resourceFiles.append(path);
+        if (!path.endsWith(QLatin1String(".rcc"))) {
+            continue;
+        }
+        if (std::unique_ptr<RegisteredArchive> archive = registerArchive(path, places)) {
+            additions().resourceFiles.push_back(std::move(archive));
         }
     }
 }
@@ -123,10 +140,7 @@ void ThemeFootprint::takeBackImages()
         without(QIcon::fallbackSearchPaths(), std::exchange(added.fallbackIconFolders, {})));
     QIcon::setThemeSearchPaths(
         without(QIcon::themeSearchPaths(), std::exchange(added.iconThemeFolders, {})));
-    const QStringList resourceFiles = std::exchange(added.resourceFiles, {});
-    for (const QString &file : resourceFiles) {
-        QResource::unregisterResource(file);
-    }
+    added.resourceFiles.clear();
 }
 
 } // namespace TARN

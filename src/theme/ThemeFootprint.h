@@ -10,6 +10,7 @@ class QApplication;
 
 namespace TARN {
 
+
 /// What applied themes have added to an application, so that it can be taken back, and what the
 /// application looked like before the first of them.
 class ThemeFootprint : public QObject
@@ -40,8 +41,9 @@ public:
     void addIconThemes(const QString &folder);
     /// Has icons that an icon theme lacks looked up in \a folder.
     void addFallbackIcons(const QString &folder);
-    /// Registers the resource files "*.rcc" in \a folder.
-    void addResourceFiles(const QString &folder);
+    /// Registers the resource files "*.rcc" in \a folder that are sound. In the complete mode their
+    /// files have to lie where the theme \a name may have some.
+    void addResourceFiles(const QString &folder, const QString &name);
     /// Appends \a folder to the search paths of the prefix \a prefix.
     void addSearchPath(const QString &prefix, const QString &folder);
     /// Removes whatever was added but for the fonts. What the application added itself stays.

@@ -20,6 +20,16 @@ constexpr qint64 cursorPixels = 1 << 22;
 /// Bytes of a drawing, once it is decompressed.
 constexpr qint64 drawingBytes = 1 << 24;
 
+/// \name A resource file
+/// \{
+/// Bytes of it, and of all that lies in it once it is decompressed.
+constexpr qint64 archiveBytes = 1 << 26;
+/// Files and folders in it.
+constexpr int archiveEntries = 1 << 16;
+/// Characters of a path in it.
+constexpr int archivePathLength = 1024;
+/// \}
+
 /// Stops of a gradient: painting does not tell more of them apart.
 constexpr int gradientStops = 1024;
 
