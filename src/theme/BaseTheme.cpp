@@ -38,7 +38,7 @@ void publishVariables(QApplication &app, const ThemeConfigurationReader &configu
 void addImages(QApplication &app, const QString &directory, const QString &name)
 {
     ThemeFootprint &footprint = ThemeFootprint::of(app);
-    const QString imageThemes = directory + QLatin1String("/Images/");
+    const QString imageThemes = footprint.addImages(directory + QLatin1String("/Images/"));
     const QString images = imageThemes + name;
     const QString icons = images + QLatin1String("/scalable");
     footprint.addIconThemes(imageThemes);

@@ -1,5 +1,6 @@
 #include "theme/ThemeFootprint.h"
 
+#include "resources/files/CheckedFolder.h"
 #include "resources/files/RegisteredArchive.h"
 #include "theme/StyleInstallation.h"
 
@@ -21,6 +22,7 @@ namespace {
 /// The images that themes have added, which outlive the application.
 struct Additions
 {
+    std::vector<std::unique_ptr<CheckedFolder>> images;
     std::vector<std::unique_ptr<RegisteredArchive>> resourceFiles;
     QStringList iconThemeFolders;
     QStringList fallbackIconFolders;
@@ -95,6 +97,12 @@ void ThemeFootprint::replaceFonts(const QString &folder)
     m_isEmpty = false;
 }
 
+QString ThemeFootprint::addImages(const QString &folder)
+{
+    additions().images.push_back(std::make_unique<CheckedFolder>(folder));
+    return additions().images.back()->path();
+}
+
 void ThemeFootprint::addIconThemes(const QString &folder)
 {
     QIcon::setThemeSearchPaths(QIcon::themeSearchPaths() << folder);
@@ -140,6 +148,7 @@ void ThemeFootprint::takeBackImages()
         without(QIcon::fallbackSearchPaths(), std::exchange(added.fallbackIconFolders, {})));
     QIcon::setThemeSearchPaths(
         without(QIcon::themeSearchPaths(), std::exchange(added.iconThemeFolders, {})));
+    added.images.clear();
     added.resourceFiles.clear();
 }
 

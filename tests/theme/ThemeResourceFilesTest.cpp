@@ -8,6 +8,7 @@
 #include <support/MessageRecorder.h>
 #include <support/Text.h>
 #include <support/ThemeRepository.h>
+#include <sys/stat.h>
 
 using TARN::BaseTheme;
 
@@ -161,6 +162,17 @@ private Q_SLOTS:
         QFETCH(QByteArray, content);
         QVERIFY(isRefused(content));
         QVERIFY(!QFile::exists(text(":/Icons/a.svg")));
+    }
+
+    void pipes()
+    {
+        const QString path = m_repository->path(text("Test/Images/Test/scalable/pipe.rcc"));
+        m_repository->makeFolder(text("Test/Images/Test/scalable"));
+        QCOMPARE(mkfifo(QFile::encodeName(path).constData(), S_IRUSR | S_IWUSR), 0);
+        MessageRecorder messages;
+        apply(archive(text("old")));
+        QVERIFY(!messages.take().filter(text("pipe.rcc")).isEmpty());
+        QVERIFY(QFile::exists(text(":/test_pictures/below/one.txt")));
     }
 
     /// What is found was found sound, whatever becomes of the file.

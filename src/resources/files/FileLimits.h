@@ -30,6 +30,9 @@ constexpr int archiveEntries = 1 << 16;
 constexpr int archivePathLength = 1024;
 /// \}
 
+/// Files in a theme's folder of images.
+constexpr int themeFiles = 1 << 17;
+
 /// Stops of a gradient: painting does not tell more of them apart.
 constexpr int gradientStops = 1024;
 
