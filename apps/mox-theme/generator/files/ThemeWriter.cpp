@@ -16,6 +16,9 @@
 #include <QtCore/QFileInfo>
 #include <QtCore/QTemporaryDir>
 
+#include <filesystem>
+#include <system_error>
+
 namespace TARN::ThemeTool {
 
 namespace {
@@ -51,6 +54,16 @@ QString writeFiles(const QString &folder, const FileSet &files)
     return {};
 }
 
+/// Makes a link at \a target that reads as the one at \a path does, where a relative one leads to
+/// what lies beside it.
+bool copyLink(const QString &path, const QString &target)
+{
+    std::error_code error;
+    std::filesystem::copy_symlink(QFile::encodeName(path).toStdString(),
+                                  QFile::encodeName(target).toStdString(), error);
+    return !error;
+}
+
 /// Copies what \a files lack of the folder \a former into \a folder. Links stay links.
 QString copyOtherFiles(const QString &former, const FileSet &files, const QString &folder)
 {
@@ -67,7 +80,7 @@ QString copyOtherFiles(const QString &former, const FileSet &files, const QStrin
         }
         const QString target = folder + QLatin1Char('/') + name;
         const bool isCopied = QDir().mkpath(QFileInfo(target).path()) &&
-                              (entry.isSymLink() ? QFile::link(entry.symLinkTarget(), target)
+                              (entry.isSymLink() ? copyLink(entry.filePath(), target)
                                                  : QFile::copy(entry.filePath(), target));
         if (!isCopied) {
             return "cannot copy %1"_s.arg(entry.filePath());

@@ -2,6 +2,7 @@
 #include <QtCore/QFile>
 #include <QtTest/QtTest>
 
+#include <filesystem>
 #include <generator/files/ThemeWriter.h>
 #include <mox-theme/support/SmallTheme.h>
 #include <support/Text.h>
@@ -70,6 +71,8 @@ private Q_SLOTS:
     void emptyFoldersAreFilled();
     void relativeFoldersAreThoseOfTheCurrentOne();
     void filesOfTheAuthorStay();
+    void linksOfTheAuthorReadAsBefore_data();
+    void linksOfTheAuthorReadAsBefore();
     void imagesOfTheAuthorTakeTheirPlace();
     void linksStay();
     void folderThatIsNoThemeIsLeftAlone_data();
@@ -135,6 +138,31 @@ void ThemeWriterTest::filesOfTheAuthorStay()
         QCOMPARE(kept.readAll(), QByteArray("own"));
     }
     QVERIFY(QFileInfo(repository.path(text("Theme/link"))).isSymLink());
+}
+
+void ThemeWriterTest::linksOfTheAuthorReadAsBefore_data()
+{
+    QTest::addColumn<QString>("target");
+    QTest::newRow("beside it") << "notes.txt";
+    QTest::newRow("below") << "./notes/first.txt";
+    QTest::newRow("outside of the theme") << "../shared/notes.txt";
+    QTest::newRow("a folder") << "notes";
+    QTest::newRow("nothing") << "missing.txt";
+    QTest::newRow("from the root") << "/usr/share/notes.txt";
+}
+
+void ThemeWriterTest::linksOfTheAuthorReadAsBefore()
+{
+    QFETCH(const QString, target);
+    const Repository repository;
+    repository.write(text("Theme/notes.txt"), "own");
+    repository.write(text("Theme/notes/first.txt"), "own");
+    repository.write(text("shared/notes.txt"), "own");
+    const QString link = repository.path(text("Theme/link"));
+    QVERIFY(QFile::link(target, link));
+    QCOMPARE(writeTheme(otherTheme(), repository.theme()), QString());
+    const std::string read = std::filesystem::read_symlink(link.toStdString());
+    QCOMPARE(QString::fromStdString(read), target);
 }
 
 void ThemeWriterTest::imagesOfTheAuthorTakeTheirPlace()
