@@ -69,6 +69,13 @@ private:
                });
     }
 
+public:
+    static void initMain()
+    {
+        // On such a screen the toolkit looks for larger variants of an icon as well.
+        qputenv("QT_SCALE_FACTOR", "2");
+    }
+
 private Q_SLOTS:
     void init()
     {
@@ -205,6 +212,19 @@ private Q_SLOTS:
         // Told once, not by each look-up.
         QCOMPARE(!ThemeResources::getIcon(text("a")).isNull(), isIcon);
         QCOMPARE(messages.take(), QStringList());
+    }
+
+    void variantsOfIcons()
+    {
+        for (const QString &name : {text("sound"), text("large")}) {
+            m_files->write(name + text(".png"), rasterFile(Qt::red));
+        }
+        m_files->write(text("sound@2x.png"), rasterFile(Qt::red, "PNG", {32, 32}));
+        m_files->write(text("large@2x.png"), largePng({4096, 4097}));
+        QVERIFY(isRed(ThemeResources::getIcon(text("sound")).pixmap(iconSize)));
+        QTest::ignoreMessage(QtWarningMsg,
+                             QRegularExpression(text("large@2x\\.png is not used: ")));
+        QVERIFY(ThemeResources::getIcon(text("large")).isNull());
     }
 
     void pixelsOfCursors()

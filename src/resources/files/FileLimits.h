@@ -3,7 +3,8 @@
 #include <QtCore/QtGlobal>
 
 /// What the files of a theme may take at most. Whoever reads one holds to these, finds out before
-/// the memory is taken, and treats what is beyond them as what can't be read.
+/// the memory is taken, and treats what is beyond them as what can't be read. docs/security.md
+/// tells them to people who write themes.
 namespace TARN::FileLimits {
 
 /// \name Pixels of a picture, which take four bytes each

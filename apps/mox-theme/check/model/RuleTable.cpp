@@ -67,7 +67,8 @@ constexpr Row rows[] = {
     {"unknown-weight", error,
      R"(The font's weight is none that the library knows; the library takes "Normal".)"},
     {"unreadable-image", error,
-     "An icon or a cursor cannot be loaded; the library shows nothing in its place."},
+     "An icon or a cursor cannot be loaded, links to another file or has too many pixels; the "
+     "library shows nothing in its place."},
     {"unresolved-placeholder", error,
      "A stylesheet has a placeholder for a variable that the theme does not define or that has "
      "no text; the library leaves it as it stands or replaces it by nothing."},

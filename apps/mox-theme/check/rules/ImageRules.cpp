@@ -1,6 +1,8 @@
 #include "check/rules/ImageRules.h"
 
 #include "check/rules/IconIndex.h"
+#include "resources/files/FileLimits.h"
+#include "resources/files/PictureFault.h"
 #include "text/Literals.h"
 
 #include <QtCore/QDir>
@@ -55,9 +57,21 @@ bool isVectorImage(const QByteArray &format)
     return format == "svg" || format == "svgz";
 }
 
-/// Returns why the image at \a path cannot be loaded; an empty text when it can.
-QString imageFault(const QString &path, QSize &size)
+/// Returns why the library would not use the image at \a path; an empty text when it would.
+QString refusal(const QString &path, qint64 mostPixels)
 {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? pictureFault(file, path, {mostPixels, false})
+                                          : QString();
+}
+
+/// Returns why the image at \a path cannot be loaded; an empty text when it can.
+QString imageFault(const QString &path, qint64 mostPixels, QSize &size)
+{
+    QString fault = refusal(path, mostPixels);
+    if (!fault.isEmpty()) {
+        return fault;
+    }
     // Small enough to be drawn in no time, and more than enough for the others.
     constexpr int drawnSize = 16;
     constexpr qint64 mostDecodedPixels = 1 << 24;
@@ -109,14 +123,14 @@ QStringList imageFilters()
     return filters;
 }
 
-void checkImageFiles(const QDir &folder, FindingList &findings)
+void checkImageFiles(const QDir &folder, qint64 mostPixels, FindingList &findings)
 {
     static const QStringList filters = imageFilters();
     const QFileInfoList files = folder.entryInfoList(filters, QDir::Files, QDir::Name);
     for (const QFileInfo &file : files) {
         const QString path = folder.filePath(file.fileName());
         QSize size;
-        QString fault = imageFault(path, size);
+        QString fault = imageFault(path, mostPixels, size);
         if (fault.isEmpty() && file.suffix() == "cur"_s) {
             fault = cursorFault(path, size);
         }
@@ -141,8 +155,8 @@ void checkImages(const QString &directory, const Description &description, Findi
     const QDir folder(path);
     checkIconIndex(folder.filePath("index.theme"_s), findings);
     if (findings.wants("unreadable-image"_s)) {
-        checkImageFiles(QDir(folder.filePath("scalable"_s)), findings);
-        checkImageFiles(QDir(folder.filePath("Cursors"_s)), findings);
+        checkImageFiles(QDir(folder.filePath("scalable"_s)), FileLimits::iconPixels, findings);
+        checkImageFiles(QDir(folder.filePath("Cursors"_s)), FileLimits::cursorPixels, findings);
     }
 }
 

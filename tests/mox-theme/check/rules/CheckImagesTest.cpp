@@ -101,6 +101,10 @@ private Q_SLOTS:
         QTest::newRow("empty") << "empty.svg" << QByteArray();
         QTest::newRow("no image") << "text.svg" << QByteArray("hello");
         QTest::newRow("broken") << "broken.svg" << QByteArray("<svg><path></svg>");
+        QTest::newRow("linking to another file")
+            << "link.svg"
+            << QByteArray("<svg xmlns:xlink='http://www.w3.org/1999/xlink'>"
+                          "<image width='9' height='9' xlink:href='other.png'/></svg>");
         QTest::newRow("cut off") << "cut.png" << QByteArray("\x89PNG\r\n\x1a\n");
     }
 
@@ -126,6 +130,29 @@ private Q_SLOTS:
         const SoundTheme theme;
         theme.write(cursorFile, theme.content(cursorFile).left(40));
         verifyOnly(theme, "pick.cur:0:0 unreadable-image"_s);
+    }
+
+    void largePicturesAreFound_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<int>("height");
+        QTest::newRow("icon") << "Images/Sound/scalable/large.png" << 4097;
+        QTest::newRow("cursor") << "Images/Sound/Cursors/large.png" << 1025;
+    }
+
+    /// The library does not show them.
+    void largePicturesAreFound()
+    {
+        QFETCH(QString, name);
+        QFETCH(int, height);
+        constexpr int width = 4096;
+        QByteArray picture;
+        QBuffer buffer(&picture);
+        buffer.open(QIODevice::WriteOnly);
+        QVERIFY(QImage(width, height, QImage::Format_Mono).save(&buffer, "PNG"));
+        const SoundTheme theme;
+        theme.write(name, picture);
+        verifyOnly(theme, "large.png:0:0 unreadable-image"_s);
     }
 
     /// The picture is shown, but has no hotspot.
