@@ -4,6 +4,7 @@
 #include "readers/ThemeConfigurationReader.h"
 #include "readers/xml/XmlFile.h"
 #include "resources/ThemeResources.h"
+#include "resources/files/CheckedFolder.h"
 #include "resources/variables/VariantMap.h"
 #include "style/families/tabs/TabSizes.h"
 #include "theme/ApplicationLook.h"
@@ -38,11 +39,14 @@ void publishVariables(QApplication &app, const ThemeConfigurationReader &configu
 void addImages(QApplication &app, const QString &directory, const QString &name)
 {
     ThemeFootprint &footprint = ThemeFootprint::of(app);
-    const QString imageThemes = footprint.addImages(directory + QLatin1String("/Images/"));
+    const QString imageThemes = footprint.addImages(directory + QLatin1String("/Images/"), name);
     const QString images = imageThemes + name;
     const QString icons = images + QLatin1String("/scalable");
     footprint.addIconThemes(imageThemes);
-    ApplicationLook::of(app).setIconTheme(name);
+    // The toolkit would follow such a name out of all folders of icon themes.
+    if (!leadsOutside(name)) {
+        ApplicationLook::of(app).setIconTheme(name);
+    }
     footprint.addResourceFiles(icons, name);
     footprint.addSearchPath(ThemeResources::iconsPrefix(), icons);
     footprint.addSearchPath(ThemeResources::iconsPrefix(), QStringLiteral(":/Icons"));

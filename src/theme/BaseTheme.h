@@ -38,8 +38,8 @@ public:
     /// before or since, stay. When the style leaves the application (another one is set, or it is
     /// deleted), the application and its widgets get back what they had, but for what was changed
     /// since. The property is read at each call: set later, it takes effect with the next theme,
-    /// which removes the stylesheet of the former one; set to false again, the next theme is applied
-    /// as by default.
+    /// which removes the stylesheet of the former one; set to false again, the next theme is
+    /// applied as by default.
     void customize(QApplication *app) override;
 
 private:

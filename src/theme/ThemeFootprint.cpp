@@ -97,9 +97,9 @@ void ThemeFootprint::replaceFonts(const QString &folder)
     m_isEmpty = false;
 }
 
-QString ThemeFootprint::addImages(const QString &folder)
+QString ThemeFootprint::addImages(const QString &folder, const QString &name)
 {
-    additions().images.push_back(std::make_unique<CheckedFolder>(folder));
+    additions().images.push_back(std::make_unique<CheckedFolder>(folder, name));
     return additions().images.back()->path();
 }
 

@@ -10,7 +10,6 @@ class QApplication;
 
 namespace TARN {
 
-
 /// What applied themes have added to an application, so that it can be taken back, and what the
 /// application looked like before the first of them.
 class ThemeFootprint : public QObject
@@ -39,9 +38,9 @@ public:
 
     /// Has theme icons looked up in the icon themes below \a folder.
     void addIconThemes(const QString &folder);
-    /// Returns the path by which the folder of images \a folder is to be looked into: of itself, or
-    /// of one that lacks what must not be read. Both end with a slash.
-    QString addImages(const QString &folder);
+    /// Returns the path by which the folder of images \a folder of the theme \a name is to be
+    /// looked into: of itself, or of one that lacks what must not be read. Both end with a slash.
+    QString addImages(const QString &folder, const QString &name);
     /// Has icons that an icon theme lacks looked up in \a folder.
     void addFallbackIcons(const QString &folder);
     /// Registers the resource files "*.rcc" in \a folder that are sound. In the complete mode their

@@ -142,6 +142,43 @@ private Q_SLOTS:
         QVERIFY(QIcon::fromTheme(text("elsewhere")).isNull());
     }
 
+    void iconThemesOutside()
+    {
+        m_repository->addTheme(text("Test"));
+        m_repository->write(images(text("index.theme")),
+                            QByteArray(iconIndex).replace("Name=Test", "Inherits=../../outside"));
+        m_repository->write(text("Test/outside/index.theme"), iconIndex);
+        m_repository->write(text("Test/outside/scalable/elsewhere.svg"), drawing());
+        QCOMPARE(refusedFiles(), QStringList{text("index.theme")});
+        QVERIFY(QIcon::fromTheme(text("elsewhere")).isNull());
+    }
+
+    /// The folder of the images is called like the theme.
+    void namesOutside()
+    {
+        m_repository->addTheme(text("Test"));
+        m_repository->write(text("Test/theme.xml"), "<theme><name>../outside</name></theme>");
+        m_repository->write(text("Test/outside/index.theme"), iconIndex);
+        m_repository->write(text("Test/outside/scalable/elsewhere.svg"), drawing());
+        QCOMPARE(refusedFiles(), QStringList{text("outside")});
+        QVERIFY(QIcon::fromTheme(text("elsewhere")).isNull());
+        QVERIFY(ThemeResources::getIcon(text("elsewhere")).isNull());
+        QVERIFY(!ThemeResources::getIcon(text("action.close")).isNull());
+    }
+
+    /// Where there is no place for what is left of the images, none of them is used.
+    void noPlaceForLinks()
+    {
+        writeTheme();
+        qputenv("TMPDIR", "/proc/self");
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(text("scalable/pipe is not used")));
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(text("linked.svg is not used")));
+        BaseTheme(m_repository->path(text("Test"))).customize(qApp);
+        QVERIFY(QIcon::fromTheme(text("sound")).isNull());
+        QVERIFY(ThemeResources::getIcon(text("sound")).isNull());
+        QVERIFY(!ThemeResources::getIcon(text("action.close")).isNull());
+    }
+
     /// What stands for the theme's folder goes with the theme.
     void takenBack()
     {

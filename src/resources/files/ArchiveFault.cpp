@@ -73,7 +73,7 @@ QString fileOutside(const QByteArray &archive, const QStringList &folders)
 {
     const ArchiveTree tree(archive);
     for (const ArchiveTree::File &file : tree.files()) {
-        const QString path = QLatin1Char(':') + file.path;
+        QString path = QLatin1Char(':') + file.path;
         const bool isInside = std::any_of(folders.begin(), folders.end(), [&](const auto &folder) {
             return path.startsWith(folder + QLatin1Char('/'));
         });

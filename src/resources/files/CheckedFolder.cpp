@@ -11,6 +11,8 @@
 #include <QtCore/QSettings>
 #include <QtGui/QImageReader>
 
+#include <algorithm>
+
 namespace TARN {
 
 namespace {
@@ -31,16 +33,14 @@ bool isNamedLikePicture(const QFileInfo &file)
     return extensions.contains(file.suffix().toLower().toLatin1());
 }
 
-/// Tells whether the index of an icon theme at \a path names folders outside of its own.
-bool leadsOutside(const QString &path)
+/// Tells whether the index of an icon theme at \a path names folders outside of its own, or icon
+/// themes outside of where they lie.
+bool hasNamesOutside(const QString &path)
 {
-    const QStringList keys = QSettings(path, QSettings::IniFormat).allKeys();
-    for (const QString &key : keys) {
-        if (key.split(QLatin1Char('/')).contains(QLatin1String(".."))) {
-            return true;
-        }
-    }
-    return false;
+    const QSettings index(path, QSettings::IniFormat);
+    const QStringList names =
+        index.allKeys() + index.value(QStringLiteral("Icon Theme/Inherits")).toStringList();
+    return std::any_of(names.begin(), names.end(), leadsOutside);
 }
 
 bool isAllowed(const QFileInfo &file)
@@ -50,7 +50,7 @@ bool isAllowed(const QFileInfo &file)
         warn(path, QStringLiteral("it is a pipe or a device"));
         return false;
     }
-    if (file.fileName() == QLatin1String("index.theme") && leadsOutside(path)) {
+    if (file.fileName() == QLatin1String("index.theme") && hasNamesOutside(path)) {
         warn(path, QStringLiteral("it names folders outside of its own"));
         return false;
     }
@@ -93,10 +93,17 @@ Content allowedContent(const QString &folder)
     return content;
 }
 
+/// Returns the path of a folder that does not exist. Even a name that leads out of it leads to
+/// nothing but what is compiled in.
+QString nowhere()
+{
+    return QStringLiteral(":/TARN/nowhere/");
+}
+
 std::unique_ptr<QTemporaryDir> linksTo(const QString &folder, const QStringList &paths)
 {
     auto links = std::make_unique<QTemporaryDir>();
-    for (const QString &path : paths) {
+    for (const QString &path : links->isValid() ? paths : QStringList()) {
         const QString link = links->filePath(path);
         QDir().mkpath(QFileInfo(link).path());
         QFile::link(QFileInfo(folder + path).absoluteFilePath(), link);
@@ -106,13 +113,23 @@ std::unique_ptr<QTemporaryDir> linksTo(const QString &folder, const QStringList 
 
 } // namespace
 
-CheckedFolder::CheckedFolder(const QString &folder)
+bool leadsOutside(const QString &path)
+{
+    return path.split(QLatin1Char('/')).contains(QLatin1String(".."));
+}
+
+CheckedFolder::CheckedFolder(const QString &folder, const QString &name)
     : m_path(folder)
 {
+    if (leadsOutside(name)) {
+        warn(folder + name, QStringLiteral("it lies outside of the theme's images"));
+        m_path = nowhere();
+        return;
+    }
     const Content content = allowedContent(folder);
     if (!content.isWhole) {
         m_links = linksTo(folder, content.paths);
-        m_path = m_links->path() + QLatin1Char('/');
+        m_path = m_links->isValid() ? m_links->path() + QLatin1Char('/') : nowhere();
     }
 }
 

@@ -7,6 +7,9 @@
 
 namespace TARN {
 
+/// Tells whether the relative path \a path leads out of the folder that it counts from.
+bool leadsOutside(const QString &path);
+
 /// A theme's folder of images as it is given to those who read it by themselves: the toolkit's icon
 /// themes, and whoever opens a file of a search path.
 ///
@@ -16,8 +19,9 @@ namespace TARN {
 class CheckedFolder
 {
 public:
-    /// Looks at \a folder, whose path ends with a slash.
-    explicit CheckedFolder(const QString &folder);
+    /// Looks at \a folder, whose path ends with a slash and which is that of the theme \a name. A
+    /// name that leads out of it leads nowhere.
+    CheckedFolder(const QString &folder, const QString &name);
 
     /// Returns the path of what may be used; it ends with a slash.
     const QString &path() const { return m_path; }

@@ -61,7 +61,7 @@ private:
         const QXmlStreamAttributes attributes = m_reader.attributes();
         for (const QXmlStreamAttribute &attribute : attributes) {
             if (attribute.qualifiedName().endsWith(QLatin1String("href"))) {
-                const QString fault = linkFault(attribute.value().toString().trimmed());
+                QString fault = linkFault(attribute.value().toString().trimmed());
                 if (!fault.isEmpty()) {
                     return fault;
                 }

@@ -39,7 +39,7 @@ QString sizeFault(qint64 pixels, qint64 mostPixels)
 
 QString contentFault(QIODevice &device)
 {
-    const QString fault = drawingFault(device.read(FileLimits::drawingBytes + 1));
+    QString fault = drawingFault(device.read(FileLimits::drawingBytes + 1));
     device.seek(0);
     return fault;
 }
@@ -52,7 +52,7 @@ QString pictureFault(QIODevice &device, const QString &name, const PictureUse &u
     const bool isReadAsDrawing = format.startsWith("svg");
     if (isReadAsDrawing || isNamedLikeDrawing(name) || (format.isEmpty() && hasNoExtension(name))) {
         // Asking for a drawing's size has it rendered in parts, so this comes first.
-        const QString fault = contentFault(device);
+        QString fault = contentFault(device);
         if (!fault.isEmpty()) {
             return fault;
         }
