@@ -10,6 +10,7 @@
 #include "style/families/SpinBoxes.h"
 #include "style/families/buttons/PushButtons.h"
 #include "style/families/buttons/ToolButtons.h"
+#include "style/families/item_views/Headers.h"
 #include "style/families/item_views/ItemViews.h"
 #include "style/families/tabs/TabSizes.h"
 
@@ -48,6 +49,8 @@ constexpr Row<QStyle::SubElement, SubElementRule> subElementTable[] = {
     {QStyle::SE_ItemViewItemCheckIndicator, ItemViews::decorationRect},
     {QStyle::SE_ItemViewItemDecoration, ItemViews::decorationRect},
     {QStyle::SE_ItemViewItemText, ItemViews::textRect},
+    {QStyle::SE_HeaderLabel, nullptr, Headers::labelRect},
+    {QStyle::SE_HeaderArrow, nullptr, Headers::arrowRect},
     {QStyle::SE_TabBarTabRightButton, Tabs::rightButtonRect},
     {QStyle::SE_TabBarTabText, Tabs::textRect},
 };
@@ -71,6 +74,7 @@ constexpr Row<QStyle::ContentsType, ContentsRule> contentsTable[] = {
     {QStyle::CT_Slider, Sliders::sliderSize},
     {QStyle::CT_ScrollBar, ScrollBars::scrollBarSize},
     {QStyle::CT_ItemViewItem, ItemViews::itemSize},
+    {QStyle::CT_HeaderSection, nullptr, Headers::sectionSize},
 };
 
 template <typename Element, typename Rule, std::size_t Size>

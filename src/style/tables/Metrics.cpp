@@ -2,6 +2,7 @@
 
 #include "catalogue/Names.h"
 #include "style/asking/Properties.h"
+#include "style/families/item_views/Headers.h"
 #include "style/families/item_views/ItemViews.h"
 
 #include <QtGui/QFontMetrics>
@@ -72,6 +73,7 @@ constexpr MetricRow metricTable[] = {
     {QStyle::PM_MessageBoxIconSize, 32},
     {QStyle::PM_DockWidgetTitleBarButtonMargin, 3},
     {ItemViews::listViewPaddingMetric, 5},
+    {QStyle::PM_HeaderMarkSize, Headers::markSize, nullptr, Mode::Complete},
 };
 
 int never(const QStyleOption * /*option*/, QStyleHintReturn * /*returnData*/)
