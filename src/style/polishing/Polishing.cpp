@@ -25,12 +25,20 @@ bool haveSameBrushes(const QPalette &left, const QPalette &right, QPalette::Colo
                        });
 }
 
-/// Has \a widget take \a role from where it stands again, if it still has what \a given has.
-void takeBackRole(QWidget &widget, const QPalette &given, QPalette::ColorRole role)
+/// Has \a widget take the roles of \a mask from where it stands again, as far as it still has what
+/// \a given has.
+void takeBackRoles(QWidget &widget, const QPalette &given, uint mask)
 {
     QPalette palette = widget.palette();
-    if (haveSameBrushes(palette, given, role)) {
-        palette.resolve(palette.resolve() & ~maskOf(role));
+    uint kept = palette.resolve();
+    for (int i = 0; i < QPalette::NColorRoles; ++i) {
+        const auto role = static_cast<QPalette::ColorRole>(i);
+        if ((mask & maskOf(role)) != 0 && haveSameBrushes(palette, given, role)) {
+            kept &= ~maskOf(role);
+        }
+    }
+    if (kept != palette.resolve()) {
+        palette.resolve(kept);
         widget.setPalette(palette);
     }
 }
@@ -130,14 +138,27 @@ bool Polishing::isSetByProgram(QPalette::ColorRole role) const
 
 void Polishing::setBrushes(QPalette::ColorRole role, const QBrush &enabled, const QBrush &disabled)
 {
-    if (m_undo && isSetByProgram(role)) {
+    setBrushes({{role, enabled, enabled, disabled}});
+}
+
+void Polishing::setBrushes(std::initializer_list<RoleBrushes> roles)
+{
+    QPalette palette = m_widget.palette();
+    uint given = 0;
+    for (const RoleBrushes &brushes : roles) {
+        if (m_undo && isSetByProgram(brushes.role)) {
+            continue;
+        }
+        palette.setBrush(QPalette::Active, brushes.role, brushes.active);
+        palette.setBrush(QPalette::Inactive, brushes.role, brushes.inactive);
+        palette.setBrush(QPalette::Disabled, brushes.role, brushes.disabled);
+        given |= maskOf(brushes.role);
+    }
+    if (given == 0) {
         return;
     }
-    QPalette palette = m_widget.palette();
-    palette.setBrush(QPalette::All, role, enabled);
-    palette.setBrush(QPalette::Disabled, role, disabled);
     m_widget.setPalette(palette);
-    addUndo([&widget = m_widget, palette, role] { takeBackRole(widget, palette, role); });
+    addUndo([&widget = m_widget, palette, given] { takeBackRoles(widget, palette, given); });
 }
 
 void Polishing::installEventFilter()

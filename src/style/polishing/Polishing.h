@@ -8,7 +8,18 @@
 #include <QtWidgets/QStyle>
 #include <QtWidgets/QWidget>
 
+#include <initializer_list>
+
 namespace TARN {
+
+/// The brushes of a role of a palette, by colour group.
+struct RoleBrushes
+{
+    QPalette::ColorRole role;
+    QBrush active;
+    QBrush inactive;
+    QBrush disabled;
+};
 
 /// The polishing of one widget: through it the rules change the widget.
 ///
@@ -34,6 +45,8 @@ public:
     void setProperty(Property property, const QVariant &value);
     void setMinimumHeight(int height);
     void setFont(const QFont &font);
+    /// Gives the palette of the widget \a roles, but for those that a program has set.
+    void setBrushes(std::initializer_list<RoleBrushes> roles);
     /// Gives the palette of the widget the \a role of all groups in the brush \a enabled, that of
     /// the disabled group in \a disabled.
     void setBrushes(QPalette::ColorRole role, const QBrush &enabled, const QBrush &disabled);

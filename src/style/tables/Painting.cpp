@@ -23,6 +23,7 @@
 #include "style/families/buttons/PushButtons.h"
 #include "style/families/buttons/ToolButtons.h"
 #include "style/families/item_views/Headers.h"
+#include "style/families/item_views/Indicators.h"
 #include "style/families/item_views/ItemViews.h"
 #include "style/families/item_views/Items.h"
 #include "style/families/menus/MenuBars.h"

@@ -16,6 +16,7 @@
 #include "style/families/Windows.h"
 #include "style/families/buttons/PushButtons.h"
 #include "style/families/item_views/ItemViews.h"
+#include "style/families/item_views/Selections.h"
 #include "style/families/tabs/TabSizes.h"
 #include "style/polishing/PolishedWidgets.h"
 #include "style/polishing/Polishing.h"
@@ -104,8 +105,10 @@ struct Rule
 // In the order in which they apply: later rules see what earlier ones did.
 constexpr Rule rules[] = {
     {ofClass<QProgressBar>(), ProgressBars::polish},
-    {like<QAbstractItemView>(), ItemViews::polishPalette},
+    {like<QAbstractItemView>(), ItemViews::polishPalette, Modes::Default},
+    {like<QAbstractItemView>(), ItemViews::polishColors, Modes::Complete},
     {like<QAbstractItemView>(), ItemViews::polishItems},
+    {like<QAbstractItemView>(), ItemViews::hideFocus, Modes::Default},
     {ofClass<QAbstractItemView>(), ComboBoxes::polishList, Modes::Complete},
     {named("QLabel"), Labels::polishDisabledText, Modes::Default},
     {like<QTabBar>(), hearHovering},

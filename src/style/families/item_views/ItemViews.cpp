@@ -5,7 +5,7 @@
 #include "style/asking/Classes.h"
 #include "style/asking/OptionState.h"
 #include "style/asking/Properties.h"
-#include "style/drawing/Grips.h"
+#include "style/families/item_views/Selections.h"
 #include "style/polishing/Polishing.h"
 
 #include <QtCore/QPointer>
@@ -17,7 +17,6 @@ namespace TARN::ItemViews {
 namespace {
 
 constexpr int leastItemHeight = 26;
-constexpr int gripLength = 7 * gripStep;
 constexpr char cascadingList[] = "TARN::Components::CascadingListViewPanel";
 
 bool isList(const QWidget *widget)
@@ -49,38 +48,34 @@ QRect itemRect(const SubElementRequest &request)
     return SubElementRequest{request.style, request.element, &textless, request.widget}.baseRect();
 }
 
-bool isInComboBoxPopup(const QWidget *widget)
-{
-    return widget && isA(widget->parent(), "QComboBoxPrivateContainer");
-}
-
 /// The background of an item or a row.
 class Panel
 {
 public:
-    Panel(const QStyleOptionViewItem &option, const PaintRequest &request)
+    Panel(const QStyleOptionViewItem &option, const PaintRequest &request, Mode mode)
         : m_option(option)
         , m_painter(*request.painter)
         , m_widget(request.widget)
         , m_enabled(isEnabled(option))
+        , m_mode(mode)
     {
     }
 
-    void fillHovered() const { fill(m_option.rect, BrushName::MainBrush); }
+    void fillHovered() const { fill(m_option.rect, hoverBrush(m_option, m_mode)); }
 
     void fillSelected(const QRect &rect) const
     {
-        // Keys that are pressed while a pop-up is open go to it, wherever the focus is.
-        const bool hasFocus = m_widget && (m_widget->hasFocus() || isInComboBoxPopup(m_widget));
-        fill(rect, hasFocus ? BrushName::MainBrush : BrushName::MainSubLevel1Brush);
+        fill(rect, selectionBrush(m_option, m_widget, m_mode));
     }
 
     void fillAtRest() const
     {
-        if (m_option.features.testFlag(QStyleOptionViewItem::Alternate)) {
-            fill(m_option.rect, BrushName::ItemViewAlternateBackgroundBrush);
+        if (m_mode == Mode::Complete && !isInComboBoxPopup(m_widget)) {
+            fillByPalette();
+        } else if (m_option.features.testFlag(QStyleOptionViewItem::Alternate)) {
+            fillByTheme(BrushName::ItemViewAlternateBackgroundBrush);
         } else if (!isSet(m_widget, Property::CustomItemViewPalette)) {
-            fill(m_option.rect, BrushName::ItemViewBackgroundBrush);
+            fillByTheme(BrushName::ItemViewBackgroundBrush);
         }
     }
 
@@ -106,19 +101,83 @@ public:
     }
 
 private:
-    void fill(const QRect &rect, BrushName brush) const
+    void fill(const QRect &rect, const QBrush &brush) const
     {
         // The painter would turn a rectangle that is inside out.
         if (!rect.isEmpty()) {
-            m_painter.fillRect(rect, themeBrush(brush, m_enabled));
+            m_painter.fillRect(rect, brush);
         }
     }
+
+    void fillByPalette() const
+    {
+        const bool isAlternate = m_option.features.testFlag(QStyleOptionViewItem::Alternate);
+        fill(m_option.rect,
+             m_option.palette.brush(m_enabled ? QPalette::Active : QPalette::Disabled,
+                                    isAlternate ? QPalette::AlternateBase : QPalette::Base));
+    }
+
+    void fillByTheme(BrushName brush) const { fill(m_option.rect, themeBrush(brush, m_enabled)); }
 
     const QStyleOptionViewItem &m_option;
     QPainter &m_painter;
     const QWidget *m_widget;
     bool m_enabled;
+    Mode m_mode;
 };
+
+bool paintItemPanel(const PaintRequest &request, Mode mode)
+{
+    const auto *option = qstyleoption_cast<const QStyleOptionViewItem *>(request.option);
+    if (!option) {
+        return false;
+    }
+    const Panel panel(*option, request, mode);
+    if (showsHover(*option, request.widget)) {
+        panel.fillHovered();
+        return true;
+    }
+    const bool isSelected = has(*option, QStyle::State_Selected);
+    if (isSelected && option->showDecorationSelected) {
+        panel.fillSelected(option->rect);
+    } else {
+        panel.fillAtRest();
+        panel.fillByModel();
+        if (isSelected) {
+            // As everywhere in the toolkit, such a selection covers the text alone.
+            panel.fillSelected(request.proxy().subElementRect(QStyle::SE_ItemViewItemText, option,
+                                                              request.widget));
+        }
+    }
+    panel.drawSeparator();
+    return true;
+}
+
+bool paintRow(const PaintRequest &request, Mode mode)
+{
+    const auto *option = qstyleoption_cast<const QStyleOptionViewItem *>(request.option);
+    if (!option) {
+        return false;
+    }
+    if (isA(request.widget, "TARN::PeriodicTable::PeriodicTableView")) {
+        // The elements stand apart on the view's own background, in which rows mean nothing.
+        return true;
+    }
+    const Panel panel(*option, request, mode);
+    if (showsHover(*option, request.widget)) {
+        panel.fillHovered();
+        return true;
+    }
+    if (has(*option, QStyle::State_Selected) &&
+        request.proxy().styleHint(QStyle::SH_ItemView_ShowDecorationSelected, option,
+                                  request.widget) != 0) {
+        panel.fillSelected(option->rect);
+    } else {
+        panel.fillAtRest();
+    }
+    panel.drawSeparator();
+    return true;
+}
 
 } // namespace
 
@@ -199,96 +258,33 @@ void polishItems(Polishing &polishing)
     if (isA(&widget, "QListView")) {
         polishing.setProperty(Property::DrawChildIndicatorInListView, true);
     }
-    polishing.setProperty(Property::HideFocusRect, true);
 }
 
-bool showsHover(const QStyleOptionViewItem &option, const QWidget *widget)
+void hideFocus(Polishing &polishing)
 {
-    return isHovered(option) && isSet(widget, Property::HighlightItemsOnMouseHover);
-}
-
-bool drawColumnArrow(const PaintRequest &request)
-{
-    const auto *option = qstyleoption_cast<const QStyleOptionViewItem *>(request.option);
-    if (!option) {
-        return false;
+    if (!isSet(&polishing.widget(), Property::CustomItemDelegate)) {
+        polishing.setProperty(Property::HideFocusRect, true);
     }
-    QStyleOptionViewItem arrow(*option);
-    if (isEnabled(arrow) && has(arrow, QStyle::State_Selected)) {
-        arrow.palette.setBrush(QPalette::WindowText,
-                               arrow.palette.brush(QPalette::HighlightedText));
-    }
-    request.style.drawPrimitive(isRightToLeft(arrow) ? QStyle::PE_IndicatorArrowLeft
-                                                     : QStyle::PE_IndicatorArrowRight,
-                                &arrow, request.painter, request.widget);
-    return true;
 }
 
 bool drawItemPanel(const PaintRequest &request)
 {
-    const auto *option = qstyleoption_cast<const QStyleOptionViewItem *>(request.option);
-    if (!option) {
-        return false;
-    }
-    const Panel panel(*option, request);
-    if (showsHover(*option, request.widget)) {
-        panel.fillHovered();
-        return true;
-    }
-    const bool isSelected = has(*option, QStyle::State_Selected);
-    if (isSelected && option->showDecorationSelected) {
-        panel.fillSelected(option->rect);
-    } else {
-        panel.fillAtRest();
-        panel.fillByModel();
-        if (isSelected) {
-            // As everywhere in the toolkit, such a selection covers the text alone.
-            panel.fillSelected(request.proxy().subElementRect(QStyle::SE_ItemViewItemText, option,
-                                                              request.widget));
-        }
-    }
-    panel.drawSeparator();
-    return true;
+    return paintItemPanel(request, Mode::Default);
+}
+
+bool drawCompleteItemPanel(const PaintRequest &request)
+{
+    return paintItemPanel(request, Mode::Complete);
 }
 
 bool drawRow(const PaintRequest &request)
 {
-    const auto *option = qstyleoption_cast<const QStyleOptionViewItem *>(request.option);
-    if (!option) {
-        return false;
-    }
-    if (isA(request.widget, "TARN::PeriodicTable::PeriodicTableView")) {
-        // The elements stand apart on the view's own background, in which rows mean nothing.
-        return true;
-    }
-    const Panel panel(*option, request);
-    if (showsHover(*option, request.widget)) {
-        panel.fillHovered();
-        return true;
-    }
-    if (has(*option, QStyle::State_Selected) &&
-        request.proxy().styleHint(QStyle::SH_ItemView_ShowDecorationSelected, option,
-                                  request.widget) != 0) {
-        panel.fillSelected(option->rect);
-    } else {
-        panel.fillAtRest();
-    }
-    panel.drawSeparator();
-    return true;
+    return paintRow(request, Mode::Default);
 }
 
-bool drawColumnGrip(const PaintRequest &request)
+bool drawCompleteRow(const PaintRequest &request)
 {
-    const QRect &rect = request.option->rect;
-    if (rect.isEmpty()) {
-        return true;
-    }
-    // Seven dots are seen as a grip; more of them, as a line.
-    const QPoint center = rect.center();
-    const int from = qMax(center.y() - gripLength / 2, rect.top());
-    const int to = qMin(from + gripLength, rect.bottom());
-    drawGrips(*request.painter, Qt::Vertical, from, to, center.x());
-    return true;
+    return paintRow(request, Mode::Complete);
 }
 
 } // namespace TARN::ItemViews

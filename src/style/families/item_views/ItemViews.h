@@ -29,12 +29,12 @@ void polishPalette(Polishing &polishing);
 /// Tells the view how its items are painted, unless it has a delegate of its own.
 void polishItems(Polishing &polishing);
 
-/// Tells whether the view marks the item because the mouse is over it.
-bool showsHover(const QStyleOptionViewItem &option, const QWidget *widget);
+/// Tells the view, unless it has a delegate of its own, not to show which item has the focus.
+void hideFocus(Polishing &polishing);
 
-bool drawColumnArrow(const PaintRequest &request);
 bool drawItemPanel(const PaintRequest &request);
+bool drawCompleteItemPanel(const PaintRequest &request);
 bool drawRow(const PaintRequest &request);
-bool drawColumnGrip(const PaintRequest &request);
+bool drawCompleteRow(const PaintRequest &request);
 
 } // namespace TARN::ItemViews

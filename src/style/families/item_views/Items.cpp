@@ -9,6 +9,7 @@
 #include "style/drawing/Icons.h"
 #include "style/drawing/Shapes.h"
 #include "style/families/item_views/ItemViews.h"
+#include "style/families/item_views/Selections.h"
 #include "style/text/Paragraph.h"
 
 #include <QtGui/QPainter>
@@ -28,14 +29,6 @@ int verticalScrollBarPadding(const QStyle &proxy)
         [&proxy] { return proxy.pixelMetric(QStyle::PM_ScrollBarExtent); });
 }
 
-QPalette::ColorGroup colorGroup(const QStyleOption &option)
-{
-    if (!isEnabled(option)) {
-        return QPalette::Disabled;
-    }
-    return has(option, QStyle::State_Active) ? QPalette::Normal : QPalette::Inactive;
-}
-
 /// Tells whether the view shows which of the items have items below them, and this is one.
 bool hasChildIndicator(const QStyleOptionViewItem &option, const QWidget *widget)
 {
@@ -51,14 +44,14 @@ bool hasChildIndicator(const QStyleOptionViewItem &option, const QWidget *widget
 class ItemPainter
 {
 public:
-    ItemPainter(const QStyleOptionViewItem &option, const PaintRequest &request);
+    ItemPainter(const QStyleOptionViewItem &option, const PaintRequest &request, Mode mode);
 
     void paint();
 
 private:
     bool hasCheck() const { return m_option.features & QStyleOptionViewItem::HasCheckIndicator; }
     QRect rectOf(QStyle::SubElement element) const;
-    const QBrush &textBrush() const;
+    const QBrush &textBrush() const { return itemTextBrush(m_option, m_widget, m_mode); }
     bool staysInside() const;
 
     void placeChildIndicator();
@@ -77,7 +70,7 @@ private:
     const QStyleOptionViewItem &m_option;
     QPainter &m_painter;
     const QWidget *m_widget;
-    QPalette::ColorGroup m_colorGroup;
+    Mode m_mode;
     bool m_isHighlighted;
     QRect m_iconRect;
     QRect m_textRect;
@@ -86,12 +79,12 @@ private:
     QRect m_childIndicatorRect;
 };
 
-ItemPainter::ItemPainter(const QStyleOptionViewItem &option, const PaintRequest &request)
+ItemPainter::ItemPainter(const QStyleOptionViewItem &option, const PaintRequest &request, Mode mode)
     : m_proxy(request.proxy())
     , m_option(option)
     , m_painter(*request.painter)
     , m_widget(request.widget)
-    , m_colorGroup(colorGroup(option))
+    , m_mode(mode)
     , m_isHighlighted(has(option, QStyle::State_Selected) || showsHover(option, request.widget))
 {
     placeChildIndicator();
@@ -115,15 +108,6 @@ void ItemPainter::paint()
 QRect ItemPainter::rectOf(QStyle::SubElement element) const
 {
     return m_proxy.subElementRect(element, &m_option, m_widget);
-}
-
-/// Disabled texts have the same colour on every ground: the selection is so faint then that
-/// highlighted text would not be read on it.
-const QBrush &ItemPainter::textBrush() const
-{
-    const bool isOnAccent = m_isHighlighted && isEnabled(m_option);
-    return m_option.palette.brush(m_colorGroup,
-                                  isOnAccent ? QPalette::HighlightedText : QPalette::Text);
 }
 
 /// Tells whether nothing needs to be clipped, which takes as long as painting most of an item.
@@ -248,7 +232,7 @@ void ItemPainter::drawText() const
 /// Frames the text; what is edited is not shown as selected.
 void ItemPainter::drawEditingFrame() const
 {
-    m_painter.setPen(outlinePen(m_option.palette.brush(m_colorGroup, QPalette::Text)));
+    m_painter.setPen(outlinePen(plainTextBrush(m_option)));
     m_painter.setBrush(Qt::NoBrush);
     m_painter.drawRect(m_textRect.adjusted(0, 0, -1, -1));
 }
@@ -262,6 +246,9 @@ void ItemPainter::drawFocus() const
     focus.backgroundColor = m_option.palette.color(
         isEnabled(m_option) ? QPalette::Normal : QPalette::Disabled,
         has(m_option, QStyle::State_Selected) ? QPalette::Highlight : QPalette::Window);
+    if (m_mode == Mode::Complete && m_isHighlighted) {
+        focus.palette.setBrush(QPalette::Text, textBrush());
+    }
     m_proxy.drawPrimitive(QStyle::PE_FrameFocusRect, &focus, &m_painter, m_widget);
 }
 
@@ -272,18 +259,28 @@ void ItemPainter::drawChildIndicator() const
                    textBrush());
 }
 
-} // namespace
-
-bool drawItem(const PaintRequest &request)
+bool paintItem(const PaintRequest &request, Mode mode)
 {
     const auto *option = qstyleoption_cast<const QStyleOptionViewItem *>(request.option);
     if (!option) {
         return false;
     }
     if (!option->rect.isEmpty()) {
-        ItemPainter(*option, request).paint();
+        ItemPainter(*option, request, mode).paint();
     }
     return true;
+}
+
+} // namespace
+
+bool drawItem(const PaintRequest &request)
+{
+    return paintItem(request, Mode::Default);
+}
+
+bool drawCompleteItem(const PaintRequest &request)
+{
+    return paintItem(request, Mode::Complete);
 }
 
 } // namespace TARN::ItemViews

@@ -6,5 +6,6 @@
 namespace TARN::ItemViews {
 
 bool drawItem(const PaintRequest &request);
+bool drawCompleteItem(const PaintRequest &request);
 
 } // namespace TARN::ItemViews
