@@ -1,7 +1,11 @@
 #include "style/families/ComboBoxLists.h"
 
+#include "catalogue/Names.h"
 #include "style/ComboBoxDefaultItemDelegate.h"
 #include "style/asking/Classes.h"
+#include "style/asking/OptionState.h"
+#include "style/drawing/Lines.h"
+#include "style/families/Inputs.h"
 #include "style/polishing/Polishing.h"
 
 #include <QtCore/QPointer>
@@ -46,6 +50,16 @@ void polishList(Polishing &polishing)
             delete own;
         }
     });
+}
+
+bool drawListFrame(const PaintRequest &request)
+{
+    if (!isA(request.widget, "QComboBoxPrivateContainer")) {
+        return Inputs::drawFrame(request);
+    }
+    fillFrame(*request.painter, request.option->rect,
+              themeBrush(BrushName::BackgroundSubLevel1Brush, isEnabled(*request.option)));
+    return true;
 }
 
 void polishListOf(const QComboBox &comboBox)

@@ -3,6 +3,7 @@
 #include "style/asking/ProgramColors.h"
 #include "style/families/Arrows.h"
 #include "style/families/CheckBoxes.h"
+#include "style/families/ComboBoxLists.h"
 #include "style/families/ComboBoxes.h"
 #include "style/families/DockWidgets.h"
 #include "style/families/Frames.h"

@@ -109,6 +109,7 @@ constexpr Rule rules[] = {
     {like<QAbstractItemView>(), ItemViews::polishColors, Modes::Complete},
     {like<QAbstractItemView>(), ItemViews::polishItems},
     {like<QAbstractItemView>(), ItemViews::hideFocus, Modes::Default},
+    {like<QAbstractItemView>(), ItemViews::hideFocusOfList, Modes::Complete},
     {ofClass<QAbstractItemView>(), ComboBoxes::polishList, Modes::Complete},
     {named("QLabel"), Labels::polishDisabledText, Modes::Default},
     {like<QTabBar>(), hearHovering},

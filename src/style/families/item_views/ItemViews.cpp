@@ -70,12 +70,9 @@ public:
 
     void fillAtRest() const
     {
-        if (m_mode == Mode::Complete && !isInComboBoxPopup(m_widget)) {
-            fillByPalette();
-        } else if (m_option.features.testFlag(QStyleOptionViewItem::Alternate)) {
-            fillByTheme(BrushName::ItemViewAlternateBackgroundBrush);
-        } else if (!isSet(m_widget, Property::CustomItemViewPalette)) {
-            fillByTheme(BrushName::ItemViewBackgroundBrush);
+        if (m_option.features.testFlag(QStyleOptionViewItem::Alternate) ||
+            !isSet(m_widget, Property::CustomItemViewPalette)) {
+            fill(m_option.rect, itemBrush(m_option, m_widget, m_mode));
         }
     }
 
@@ -108,16 +105,6 @@ private:
             m_painter.fillRect(rect, brush);
         }
     }
-
-    void fillByPalette() const
-    {
-        const bool isAlternate = m_option.features.testFlag(QStyleOptionViewItem::Alternate);
-        fill(m_option.rect,
-             m_option.palette.brush(m_enabled ? QPalette::Active : QPalette::Disabled,
-                                    isAlternate ? QPalette::AlternateBase : QPalette::Base));
-    }
-
-    void fillByTheme(BrushName brush) const { fill(m_option.rect, themeBrush(brush, m_enabled)); }
 
     const QStyleOptionViewItem &m_option;
     QPainter &m_painter;
@@ -257,6 +244,13 @@ void polishItems(Polishing &polishing)
     }
     if (isA(&widget, "QListView")) {
         polishing.setProperty(Property::DrawChildIndicatorInListView, true);
+    }
+}
+
+void hideFocusOfList(Polishing &polishing)
+{
+    if (isInComboBoxPopup(&polishing.widget())) {
+        hideFocus(polishing);
     }
 }
 

@@ -31,6 +31,8 @@ void polishItems(Polishing &polishing);
 
 /// Tells the view, unless it has a delegate of its own, not to show which item has the focus.
 void hideFocus(Polishing &polishing);
+/// Does so if the view is the list of a combo box, where the focus always is on what is marked.
+void hideFocusOfList(Polishing &polishing);
 
 bool drawItemPanel(const PaintRequest &request);
 bool drawCompleteItemPanel(const PaintRequest &request);

@@ -11,6 +11,9 @@ namespace TARN::ItemViews {
 
 namespace {
 
+/// What the list of a combo box lies on. It is seen where its items have no ground.
+constexpr BrushName listGround = BrushName::BackgroundUpLevel1Brush;
+
 /// Tells whether keys go to the view. While a pop-up is open they do, wherever the focus is.
 bool hasKeys(const QWidget *widget)
 {
@@ -57,9 +60,10 @@ QColor disabledTextOn(const QColor &ground, const QPalette &palette)
 void polishColors(Polishing &polishing)
 {
     const QPalette palette = polishing.widget().palette();
-    const RoleBrushes ground{QPalette::Base, themeBrush(BrushName::ItemViewBackgroundBrush, true),
-                             themeBrush(BrushName::ItemViewBackgroundBrush, true),
-                             themeBrush(BrushName::ItemViewBackgroundBrush, false)};
+    const BrushName base =
+        isInComboBoxPopup(&polishing.widget()) ? listGround : BrushName::ItemViewBackgroundBrush;
+    const RoleBrushes ground{QPalette::Base, themeBrush(base, true), themeBrush(base, true),
+                             themeBrush(base, false)};
     const RoleBrushes selection{QPalette::Highlight, themeBrush(BrushName::MainBrush, true),
                                 themeBrush(BrushName::MainSubLevel1Brush, true),
                                 themeBrush(BrushName::MainSubLevel1Brush, false)};
@@ -77,6 +81,21 @@ void polishColors(Polishing &polishing)
 bool isInComboBoxPopup(const QWidget *widget)
 {
     return widget && isA(widget->parent(), "QComboBoxPrivateContainer");
+}
+
+const QBrush &itemBrush(const QStyleOptionViewItem &option, const QWidget *widget, Mode mode)
+{
+    const bool isAlternate = option.features.testFlag(QStyleOptionViewItem::Alternate);
+    const bool enabled = isEnabled(option);
+    const QBrush &base = option.palette.brush(
+        groupOf(option, true), isAlternate ? QPalette::AlternateBase : QPalette::Base);
+    const bool isOnList = isInComboBoxPopup(widget) && base == themeBrush(listGround, enabled);
+    if (mode == Mode::Complete && !isOnList) {
+        return base;
+    }
+    return themeBrush(isAlternate ? BrushName::ItemViewAlternateBackgroundBrush
+                                  : BrushName::ItemViewBackgroundBrush,
+                      enabled);
 }
 
 bool showsHover(const QStyleOptionViewItem &option, const QWidget *widget)

@@ -22,6 +22,9 @@ void polishColors(Polishing &polishing);
 /// Tells whether \a widget is the list that a combo box has opened; it may be null.
 bool isInComboBoxPopup(const QWidget *widget);
 
+/// Returns the ground of an item that is neither selected nor marked.
+const QBrush &itemBrush(const QStyleOptionViewItem &option, const QWidget *widget, Mode mode);
+
 /// Tells whether the view marks the item because the mouse is over it.
 bool showsHover(const QStyleOptionViewItem &option, const QWidget *widget);
 
