@@ -2,6 +2,7 @@
 
 #include "style/asking/Classes.h"
 #include "style/asking/Properties.h"
+#include "style/families/Calendars.h"
 #include "style/families/Cards.h"
 #include "style/families/ComboBoxLists.h"
 #include "style/families/ComboBoxes.h"
@@ -20,8 +21,10 @@
 #include "style/families/tabs/TabSizes.h"
 #include "style/polishing/PolishedWidgets.h"
 #include "style/polishing/Polishing.h"
+#include "style/watching/WeekEnds.h"
 
 #include <QtWidgets/QAbstractItemView>
+#include <QtWidgets/QCalendarWidget>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QCommandLinkButton>
 #include <QtWidgets/QDockWidget>
@@ -111,6 +114,8 @@ constexpr Rule rules[] = {
     {like<QAbstractItemView>(), ItemViews::hideFocus, Modes::Default},
     {like<QAbstractItemView>(), ItemViews::hideFocusOfList, Modes::Complete},
     {ofClass<QAbstractItemView>(), ComboBoxes::polishList, Modes::Complete},
+    {ofClass<QCalendarWidget>(), tintWeekEnds, Modes::Complete},
+    {{Calendars::isNavigationBar, nullptr, {}}, Calendars::polishNavigationBar, Modes::Complete},
     {named("QLabel"), Labels::polishDisabledText, Modes::Default},
     {like<QTabBar>(), hearHovering},
     {named("QGroupBox"), hearHovering},

@@ -3,8 +3,10 @@
 #include "style/asking/Classes.h"
 #include "style/watching/AltKey.h"
 #include "style/watching/ButtonIcons.h"
+#include "style/watching/WeekEnds.h"
 
 #include <QtGui/QKeyEvent>
+#include <QtWidgets/QCalendarWidget>
 #include <QtWidgets/QCommandLinkButton>
 #include <QtWidgets/QToolButton>
 
@@ -37,6 +39,11 @@ void watch(QWidget &widget, const QEvent &event, AltKey &altKey)
     switch (event.type()) {
     case QEvent::Paint:
         tintIcon(widget);
+        break;
+    case QEvent::EnabledChange:
+        if (auto *calendar = qobject_cast<QCalendarWidget *>(&widget)) {
+            updateWeekEnds(*calendar);
+        }
         break;
     case QEvent::KeyPress:
         if (isAlt(event)) {
