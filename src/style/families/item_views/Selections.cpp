@@ -40,6 +40,13 @@ QColor mixed(const QColor &first, const QColor &second, qreal share)
                             mix(first.blueF(), second.blueF()));
 }
 
+/// Returns the brushes of a role, of which the disabled one is the twin of \a inactive.
+RoleBrushes byState(QPalette::ColorRole role, BrushName active, BrushName inactive)
+{
+    return {role, themeBrush(active, true), themeBrush(inactive, true),
+            themeBrush(inactive, false)};
+}
+
 /// Returns the faintest text that can still be read on \a ground: the disabled one of \a palette,
 /// or as much nearer to the enabled one as it takes.
 QColor disabledTextOn(const QColor &ground, const QPalette &palette)
@@ -59,23 +66,24 @@ QColor disabledTextOn(const QColor &ground, const QPalette &palette)
 
 void polishColors(Polishing &polishing)
 {
-    const QPalette palette = polishing.widget().palette();
-    const BrushName base =
-        isInComboBoxPopup(&polishing.widget()) ? listGround : BrushName::ItemViewBackgroundBrush;
-    const RoleBrushes ground{QPalette::Base, themeBrush(base, true), themeBrush(base, true),
-                             themeBrush(base, false)};
-    const RoleBrushes selection{QPalette::Highlight, themeBrush(BrushName::MainBrush, true),
-                                themeBrush(BrushName::MainSubLevel1Brush, true),
-                                themeBrush(BrushName::MainSubLevel1Brush, false)};
+    const QWidget &widget = polishing.widget();
+    const QPalette palette = widget.palette();
+    const RoleBrushes selection =
+        byState(QPalette::Highlight, BrushName::MainBrush, BrushName::MainSubLevel1Brush);
     const RoleBrushes text{QPalette::HighlightedText,
                            palette.brush(QPalette::Active, QPalette::HighlightedText),
                            palette.brush(QPalette::Inactive, QPalette::HighlightedText),
                            disabledTextOn(selection.disabled.color(), palette)};
-    if (isSet(&polishing.widget(), Property::CustomItemViewPalette)) {
-        polishing.setBrushes({selection, text});
-    } else {
-        polishing.setBrushes({ground, selection, text});
+    const RoleBrushes alternate =
+        byState(QPalette::AlternateBase, BrushName::ItemViewAlternateBackgroundBrush,
+                BrushName::ItemViewAlternateBackgroundBrush);
+    if (isSet(&widget, Property::CustomItemViewPalette)) {
+        polishing.setBrushes({selection, text, alternate});
+        return;
     }
+    const BrushName ground =
+        isInComboBoxPopup(&widget) ? listGround : BrushName::ItemViewBackgroundBrush;
+    polishing.setBrushes({selection, text, alternate, byState(QPalette::Base, ground, ground)});
 }
 
 bool isInComboBoxPopup(const QWidget *widget)
