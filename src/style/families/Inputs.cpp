@@ -147,8 +147,10 @@ QSize lineEditSize(const ContentsRequest &request)
 QSize lineEditSizeInside(const ContentsRequest &request)
 {
     const QWidget *parent = request.widget ? request.widget->parentWidget() : nullptr;
-    return qobject_cast<const QAbstractSpinBox *>(parent) ? request.contents
-                                                          : lineEditSize(request);
+    const auto *frame = qstyleoption_cast<const QStyleOptionFrame *>(request.option);
+    const bool isFrameless = frame && frame->lineWidth <= 0;
+    return isFrameless || qobject_cast<const QAbstractSpinBox *>(parent) ? request.contents
+                                                                         : lineEditSize(request);
 }
 
 void polishClearButton(Polishing &polishing)

@@ -13,7 +13,7 @@ class Polishing;
 namespace TARN::Inputs {
 
 QSize lineEditSize(const ContentsRequest &request);
-/// The same; in a spin box, which has the frame, only as large as its contents.
+/// The same; without a frame of its own, as in a spin box, only as large as its contents.
 QSize lineEditSizeInside(const ContentsRequest &request);
 
 void polishClearButton(Polishing &polishing);
