@@ -1,6 +1,7 @@
 #include "theme/ApplicationPalette.h"
 
 #include "catalogue/Names.h"
+#include "common_utils/Contrast.h"
 #include "resources/ThemeColorHelper.h"
 
 #include <QtCore/QMetaEnum>
@@ -35,14 +36,33 @@ QPalette withDisabledColors(QPalette palette)
     return palette;
 }
 
+/// Returns a colour between \a first and \a second, of which it has the \a share.
+QColor mixed(const QColor &first, const QColor &second, qreal share)
+{
+    const auto mix = [share](qreal a, qreal b) { return a + (b - a) * share; };
+    return QColor::fromRgbF(mix(first.redF(), second.redF()), mix(first.greenF(), second.greenF()),
+                            mix(first.blueF(), second.blueF()));
+}
+
 /// Returns the colour that is seen where \a top lies on \a bottom.
 QColor over(const QColor &top, const QColor &bottom)
 {
-    const auto mixed = [alpha = top.alphaF()](qreal upper, qreal lower) {
-        return upper * alpha + lower * (1 - alpha);
-    };
-    return QColor::fromRgbF(mixed(top.redF(), bottom.redF()), mixed(top.greenF(), bottom.greenF()),
-                            mixed(top.blueF(), bottom.blueF()));
+    return mixed(bottom, top, top.alphaF());
+}
+
+/// Returns the faintest text that can still be read on the \a ground of selected items: the
+/// disabled one of \a palette, or as much nearer to the enabled one as it takes.
+QColor disabledTextOn(const QColor &ground, const QPalette &palette)
+{
+    constexpr double leastContrast = 2;
+    constexpr int steps = 8;
+    const QColor &faintest = palette.color(QPalette::Disabled, QPalette::Text);
+    const QColor &strongest = palette.color(QPalette::Active, QPalette::Text);
+    QColor text = faintest;
+    for (int i = 1; i <= steps && Helpers::contrastRatio(text, ground) < leastContrast; ++i) {
+        text = mixed(faintest, strongest, qreal(i) / steps);
+    }
+    return text;
 }
 
 /// Returns \a palette with its selections as they are seen on a field.
@@ -68,8 +88,9 @@ QPalette applicationPalette(const QPalette &palette, Mode mode)
     QPalette complete = withOpaqueSelections(whole);
     complete.setBrush(QPalette::Disabled, QPalette::WindowText,
                       themeBrush(BrushName::ForegroundBrush, false));
-    complete.setBrush(QPalette::Disabled, QPalette::HighlightedText,
-                      complete.brush(QPalette::Disabled, QPalette::Text));
+    complete.setColor(
+        QPalette::Disabled, QPalette::HighlightedText,
+        disabledTextOn(themeBrush(BrushName::MainSubLevel1Brush, false).color(), complete));
     // Who takes it from the style has set no role on purpose.
     complete.resolve(0);
     return complete;

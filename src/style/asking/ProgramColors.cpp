@@ -4,6 +4,7 @@
 #include "resources/kept/SlotCache.h"
 #include "resources/variables/ThemeGeneration.h"
 #include "style/asking/OptionState.h"
+#include "style/asking/ViewRoles.h"
 
 #include <QtWidgets/QAbstractSpinBox>
 #include <QtWidgets/QComboBox>
@@ -46,14 +47,14 @@ WidgetColors::Roles rolesOf(const QWidget *widget)
     }
 }
 
-/// Returns \a palette with the ground that polishing has given to item views as the style has it.
-QPalette withoutPolishedGround(QPalette palette, const QPalette &own)
+/// Returns \a palette with the roles that polishing has given to item views as the style has them.
+QPalette withoutPolishedRoles(QPalette palette, const QPalette &own)
 {
     for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
-        const bool isEnabled = group != QPalette::Disabled;
-        if (palette.brush(group, QPalette::Base) ==
-            themeBrush(BrushName::ItemViewBackgroundBrush, isEnabled)) {
-            palette.setBrush(group, QPalette::Base, own.brush(group, QPalette::Base));
+        for (const ViewRole &view : {viewGround, listGround, viewSelection}) {
+            if (palette.brush(group, view.role) == view.brush(group)) {
+                palette.setBrush(group, view.role, own.brush(group, view.role));
+            }
         }
     }
     return palette;
@@ -82,7 +83,7 @@ bool isPrograms(const PaletteKey &key)
 {
     // What is looked up on the way is to be the theme's.
     const WidgetColors::Scope plain(nullptr);
-    return WidgetColors::differ(key.own, withoutPolishedGround(key.palette, key.own), key.group);
+    return WidgetColors::differ(key.own, withoutPolishedRoles(key.palette, key.own), key.group);
 }
 
 struct ColorsKey
@@ -104,7 +105,7 @@ Colors makeColors(const ColorsKey &key)
     const WidgetColors::Scope plain(nullptr);
     const PaletteKey &palette = key.palette;
     return std::make_shared<WidgetColors>(
-        palette.own, withoutPolishedGround(palette.palette, palette.own), palette.group, key.roles);
+        palette.own, withoutPolishedRoles(palette.palette, palette.own), palette.group, key.roles);
 }
 
 } // namespace

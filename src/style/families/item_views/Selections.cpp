@@ -1,18 +1,15 @@
 #include "style/families/item_views/Selections.h"
 
 #include "catalogue/Names.h"
-#include "common_utils/Contrast.h"
 #include "style/asking/Classes.h"
 #include "style/asking/OptionState.h"
 #include "style/asking/Properties.h"
+#include "style/asking/ViewRoles.h"
 #include "style/polishing/Polishing.h"
 
 namespace TARN::ItemViews {
 
 namespace {
-
-/// What the list of a combo box lies on. It is seen where its items have no ground.
-constexpr BrushName listGround = BrushName::BackgroundUpLevel1Brush;
 
 /// Tells whether keys go to the view. While a pop-up is open they do, wherever the focus is.
 bool hasKeys(const QWidget *widget)
@@ -33,33 +30,10 @@ const QBrush &textBrush(const QStyleOptionViewItem &option, QPalette::ColorRole 
     return option.palette.brush(groupOf(option, has(option, QStyle::State_Active)), role);
 }
 
-QColor mixed(const QColor &first, const QColor &second, qreal share)
+RoleBrushes brushesOf(const ViewRole &role)
 {
-    const auto mix = [share](qreal a, qreal b) { return a + (b - a) * share; };
-    return QColor::fromRgbF(mix(first.redF(), second.redF()), mix(first.greenF(), second.greenF()),
-                            mix(first.blueF(), second.blueF()));
-}
-
-/// Returns the brushes of a role, of which the disabled one is the twin of \a inactive.
-RoleBrushes byState(QPalette::ColorRole role, BrushName active, BrushName inactive)
-{
-    return {role, themeBrush(active, true), themeBrush(inactive, true),
-            themeBrush(inactive, false)};
-}
-
-/// Returns the faintest text that can still be read on \a ground: the disabled one of \a palette,
-/// or as much nearer to the enabled one as it takes.
-QColor disabledTextOn(const QColor &ground, const QPalette &palette)
-{
-    constexpr double leastContrast = 2;
-    constexpr int steps = 8;
-    const QColor &faintest = palette.color(QPalette::Disabled, QPalette::Text);
-    const QColor &strongest = palette.color(QPalette::Active, QPalette::Text);
-    QColor text = faintest;
-    for (int i = 1; i <= steps && Helpers::contrastRatio(text, ground) < leastContrast; ++i) {
-        text = mixed(faintest, strongest, qreal(i) / steps);
-    }
-    return text;
+    return {role.role, role.brush(QPalette::Active), role.brush(QPalette::Inactive),
+            role.brush(QPalette::Disabled)};
 }
 
 } // namespace
@@ -67,23 +41,12 @@ QColor disabledTextOn(const QColor &ground, const QPalette &palette)
 void polishColors(Polishing &polishing)
 {
     const QWidget &widget = polishing.widget();
-    const QPalette palette = widget.palette();
-    const RoleBrushes selection =
-        byState(QPalette::Highlight, BrushName::MainBrush, BrushName::MainSubLevel1Brush);
-    const RoleBrushes text{QPalette::HighlightedText,
-                           palette.brush(QPalette::Active, QPalette::HighlightedText),
-                           palette.brush(QPalette::Inactive, QPalette::HighlightedText),
-                           disabledTextOn(selection.disabled.color(), palette)};
-    const RoleBrushes alternate =
-        byState(QPalette::AlternateBase, BrushName::ItemViewAlternateBackgroundBrush,
-                BrushName::ItemViewAlternateBackgroundBrush);
     if (isSet(&widget, Property::CustomItemViewPalette)) {
-        polishing.setBrushes({selection, text, alternate});
+        polishing.setBrushes({brushesOf(viewSelection), brushesOf(alternateGround)});
         return;
     }
-    const BrushName ground =
-        isInComboBoxPopup(&widget) ? listGround : BrushName::ItemViewBackgroundBrush;
-    polishing.setBrushes({selection, text, alternate, byState(QPalette::Base, ground, ground)});
+    const ViewRole &ground = isInComboBoxPopup(&widget) ? listGround : viewGround;
+    polishing.setBrushes({brushesOf(viewSelection), brushesOf(alternateGround), brushesOf(ground)});
 }
 
 bool isInComboBoxPopup(const QWidget *widget)
@@ -97,7 +60,8 @@ const QBrush &itemBrush(const QStyleOptionViewItem &option, const QWidget *widge
     const bool enabled = isEnabled(option);
     const QBrush &base = option.palette.brush(
         groupOf(option, true), isAlternate ? QPalette::AlternateBase : QPalette::Base);
-    const bool isOnList = isInComboBoxPopup(widget) && base == themeBrush(listGround, enabled);
+    const bool isOnList =
+        isInComboBoxPopup(widget) && base == listGround.brush(groupOf(option, true));
     if (mode == Mode::Complete && !isOnList) {
         return base;
     }
