@@ -114,8 +114,9 @@ QRegion cells(const QWidget &window, const char *const (&names)[Size])
 
 QRegion changedItemStates(const QWidget &window)
 {
-    static const char *const names[] = {"eyboard focus", "Closed branch", "Open branch",
-                                        "Drop place", "Item of a combo box: Selected, disabled"};
+    static const char *const names[] = {
+        "eyboard focus", "Closed branch",          "Open branch",
+        "Drop place",    "Arrow of a column view", "Item of a combo box: Selected, disabled"};
     return cells(window, names);
 }
 
@@ -149,7 +150,7 @@ const Permission permissions[] = {
      "style's by default.",
      wholePage},
     {"item-view-states",
-     "The focus is seen, branches and drop places are in the theme's colours, "
+     "The focus is seen, arrows and drop places are in the theme's colours, "
      "and all that is disabled is selected in one colour.",
      changedItemStates},
     {"column-view", "Selected items are in one colour, not in layers of a translucent one.",

@@ -16,24 +16,29 @@ namespace {
 
 constexpr int gripLength = 7 * gripStep;
 
-/// Draws the arrow that leads to the items below an item.
-void drawColumnArrow(const PaintRequest &request, const QStyleOptionViewItem &option,
-                     const QBrush &brush)
+/// Draws \a icon in the middle of the room that is asked for.
+void drawGlyph(const PaintRequest &request, const char *icon, const QBrush &brush)
 {
-    QStyleOptionViewItem arrow(option);
-    arrow.palette.setBrush(QPalette::WindowText, brush);
-    request.style.drawPrimitive(isRightToLeft(arrow) ? QStyle::PE_IndicatorArrowLeft
-                                                     : QStyle::PE_IndicatorArrowRight,
-                                &arrow, request.painter, request.widget);
+    const QRect &room = request.option->rect;
+    const int wanted = request.metric(QStyle::PM_SmallIconSize);
+    const int extent = qMin(wanted, qMin(room.width(), room.height()));
+    if (extent > 0) {
+        drawTintedIcon(
+            *request.painter,
+            QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, {extent, extent}, room),
+            keptIcon(icon), brush);
+    }
+}
+
+const char *closedIcon(const QStyleOption &option)
+{
+    return isRightToLeft(option) ? "chevron.left.small" : "chevron.right.small";
 }
 
 /// Returns the icon that tells whether the items below an item are shown.
 const char *branchIcon(const QStyleOption &option)
 {
-    if (has(option, QStyle::State_Open)) {
-        return "chevron.down.small";
-    }
-    return isRightToLeft(option) ? "chevron.left.small" : "chevron.right.small";
+    return has(option, QStyle::State_Open) ? "chevron.down.small" : closedIcon(option);
 }
 
 /// Returns what the arrow of a branch is drawn in. The mouse marks it alone in a row at rest.
@@ -53,10 +58,14 @@ bool drawColumnArrow(const PaintRequest &request)
     if (!option) {
         return false;
     }
-    const bool isOnAccent = isEnabled(*option) && has(*option, QStyle::State_Selected);
-    drawColumnArrow(
-        request, *option,
-        option->palette.brush(isOnAccent ? QPalette::HighlightedText : QPalette::WindowText));
+    QStyleOptionViewItem arrow(*option);
+    if (isEnabled(arrow) && has(arrow, QStyle::State_Selected)) {
+        arrow.palette.setBrush(QPalette::WindowText,
+                               arrow.palette.brush(QPalette::HighlightedText));
+    }
+    request.style.drawPrimitive(isRightToLeft(arrow) ? QStyle::PE_IndicatorArrowLeft
+                                                     : QStyle::PE_IndicatorArrowRight,
+                                &arrow, request.painter, request.widget);
     return true;
 }
 
@@ -64,15 +73,15 @@ bool drawCompleteColumnArrow(const PaintRequest &request)
 {
     const auto *option = qstyleoption_cast<const QStyleOptionViewItem *>(request.option);
     if (option) {
-        drawColumnArrow(request, *option, itemTextBrush(*option, request.widget, Mode::Complete));
+        drawGlyph(request, closedIcon(*option),
+                  itemTextBrush(*option, request.widget, Mode::Complete));
     }
     return option != nullptr;
 }
 
 bool drawBranch(const PaintRequest &request)
 {
-    const QRect &rect = request.option->rect;
-    if (!has(*request.option, QStyle::State_Children) || rect.isEmpty()) {
+    if (!has(*request.option, QStyle::State_Children)) {
         return true;
     }
     QStyleOptionViewItem item;
@@ -81,11 +90,7 @@ bool drawBranch(const PaintRequest &request)
     } else {
         item.QStyleOption::operator=(*request.option);
     }
-    const int wanted = request.metric(QStyle::PM_SmallIconSize);
-    const int extent = qMin(wanted, qMin(rect.width(), rect.height()));
-    drawTintedIcon(*request.painter,
-                   QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, {extent, extent}, rect),
-                   keptIcon(branchIcon(item)), branchBrush(item, request.widget));
+    drawGlyph(request, branchIcon(item), branchBrush(item, request.widget));
     return true;
 }
 
