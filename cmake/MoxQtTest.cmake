@@ -49,9 +49,31 @@ set(MOX_TEST_RUNTIME_DIR "${PROJECT_BINARY_DIR}/runtime")
 file(MAKE_DIRECTORY "${MOX_TEST_RUNTIME_DIR}")
 file(CHMOD "${MOX_TEST_RUNTIME_DIR}" PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE)
 
-# mox_add_test(<name> <source>... [WILL_FAIL] [LIBRARIES <target>...] [ENVIRONMENT <NAME=value>...])
+# Has CTest run each function of the test <target> as a test <name>.<function> in <environment>.
+function(mox_list_test_functions target name environment will_fail)
+  mox_unexpected_warning(unexpected_warning)
+  string(CONCAT properties "ENVIRONMENT [==[${environment}]==] "
+                "FAIL_REGULAR_EXPRESSION [==[${unexpected_warning}]==] "
+                "WILL_FAIL [==[${will_fail}]==]")
+  set(listing "${CMAKE_CURRENT_BINARY_DIR}/${name}_tests.cmake")
+  add_custom_command(
+    TARGET ${target}
+    POST_BUILD
+    BYPRODUCTS "${listing}"
+    COMMAND
+      "${CMAKE_COMMAND}" "-DNAME=${name}" "-DEXECUTABLE=$<TARGET_FILE:${target}>"
+      "-DLISTING=${listing}"
+      "-DPROPERTIES=${properties}" -P "${MOX_DISCOVER_TESTS_SCRIPT}"
+    VERBATIM)
+  set_property(DIRECTORY APPEND PROPERTY TEST_INCLUDE_FILES "${listing}")
+endfunction()
+
+# mox_add_test(<name> <source>... [WILL_FAIL] [BOTH_MODES] [LIBRARIES <target>...]
+#              [ENVIRONMENT <NAME=value>...])
+#
+# BOTH_MODES: what the test says holds by default and in the complete mode; CTest runs it in both.
 function(mox_add_test name)
-  cmake_parse_arguments(PARSE_ARGV 1 arg "WILL_FAIL" "" "LIBRARIES;ENVIRONMENT")
+  cmake_parse_arguments(PARSE_ARGV 1 arg "WILL_FAIL;BOTH_MODES" "" "LIBRARIES;ENVIRONMENT")
   add_executable(${name} ${arg_UNPARSED_ARGUMENTS})
   set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/tests")
   target_compile_options(${name} PRIVATE ${MOX_TEST_OPTIONS})
@@ -71,19 +93,9 @@ function(mox_add_test name)
          UBSAN_OPTIONS=print_stacktrace=1)
   endif()
 
-  mox_unexpected_warning(unexpected_warning)
-  string(CONCAT properties "ENVIRONMENT [==[${environment}]==] "
-                "FAIL_REGULAR_EXPRESSION [==[${unexpected_warning}]==] "
-                "WILL_FAIL [==[${arg_WILL_FAIL}]==]")
-  set(listing "${CMAKE_CURRENT_BINARY_DIR}/${name}_tests.cmake")
-  add_custom_command(
-    TARGET ${name}
-    POST_BUILD
-    BYPRODUCTS "${listing}"
-    COMMAND
-      "${CMAKE_COMMAND}" "-DNAME=${name}" "-DEXECUTABLE=$<TARGET_FILE:${name}>"
-      "-DLISTING=${listing}"
-      "-DPROPERTIES=${properties}" -P "${MOX_DISCOVER_TESTS_SCRIPT}"
-    VERBATIM)
-  set_property(DIRECTORY APPEND PROPERTY TEST_INCLUDE_FILES "${listing}")
+  mox_list_test_functions(${name} ${name} "${environment}" "${arg_WILL_FAIL}")
+  if(arg_BOTH_MODES)
+    mox_list_test_functions(${name} ${name}InCompleteMode
+                            "${environment};MOX_TESTED_MODE=complete" "${arg_WILL_FAIL}")
+  endif()
 endfunction()

@@ -4,9 +4,12 @@
 #include <QtGui/QBrush>
 #include <QtGui/QColor>
 
+#include <support/TestedMode.h>
+
 void publishVariables(const QVariantMap &groups)
 {
     QCoreApplication::instance()->setProperty("theme_var", groups);
+    enterTestedMode(groups);
 }
 
 void publishFactors(const QVariantMap &factors)

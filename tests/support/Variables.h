@@ -4,7 +4,8 @@
 #include <QtCore/QString>
 #include <QtCore/QVariantMap>
 
-/// Publishes \a groups as the theme's variables on the application object.
+/// Publishes \a groups as the theme's variables on the application object. In a process that tests
+/// the complete mode, a theme is applied in that mode by which they are published.
 void publishVariables(const QVariantMap &groups);
 
 /// Publishes \a factors as the disabled factors on the application object.

@@ -5,6 +5,7 @@
 #include <memory>
 #include <support/MessageRecorder.h>
 #include <support/PainterState.h>
+#include <support/TestedMode.h>
 #include <support/Text.h>
 #include <support/sweep/SweepMaterial.h>
 #include <support/themes/PaintTheme.h>
@@ -80,7 +81,8 @@ constexpr const char *drawnIntoPictures[] = {
 
 bool isLeftToBaseStyle(const ElementId &id)
 {
-    return !rowsOf(id.table).at(id.element).isPainted;
+    const TARN::StyleElement &row = rowsOf(id.table).at(id.element);
+    return !(testsCompleteMode() ? row.isPaintedInCompleteMode : row.isPainted);
 }
 
 /// Returns what painting the element may change, unless the style paints it itself.
@@ -212,6 +214,12 @@ void publishTheme()
     const PaintTheme theme(radii);
 }
 
+/// By default there is no theme at all; the complete mode is one of a theme, which may be empty.
+void publishNothing()
+{
+    enterTestedMode();
+}
+
 } // namespace
 
 /// Whatever the style is asked to paint, and with whatever, it does not crash and leaves the
@@ -228,11 +236,11 @@ private Q_SLOTS:
     void complexControls_data() { addElements(ElementTable::ComplexControls); }
     void complexControls() { sweep<QStyle::ComplexControl>(publishTheme); }
     void primitivesWithoutTheme_data() { addElements(ElementTable::Primitives); }
-    void primitivesWithoutTheme() { sweep<QStyle::PrimitiveElement>(); }
+    void primitivesWithoutTheme() { sweep<QStyle::PrimitiveElement>(publishNothing); }
     void controlsWithoutTheme_data() { addElements(ElementTable::Controls); }
-    void controlsWithoutTheme() { sweep<QStyle::ControlElement>(); }
+    void controlsWithoutTheme() { sweep<QStyle::ControlElement>(publishNothing); }
     void complexControlsWithoutTheme_data() { addElements(ElementTable::ComplexControls); }
-    void complexControlsWithoutTheme() { sweep<QStyle::ComplexControl>(); }
+    void complexControlsWithoutTheme() { sweep<QStyle::ComplexControl>(publishNothing); }
     void nothingIsPaintedWithoutOptionOrPainter();
     void elementsThatDoNotExist();
     void cleanupTestCase() { m_material.reset(); }
@@ -242,7 +250,7 @@ private:
     void prepare(void (*publish)());
 
     template <typename Element>
-    void sweep(void (*publish)() = nullptr);
+    void sweep(void (*publish)());
 
     std::unique_ptr<SweepMaterial> m_material;
 };
@@ -252,9 +260,7 @@ void SweepTest::prepare(void (*publish)())
     if (m_material) {
         return;
     }
-    if (publish) {
-        publish();
-    }
+    publish();
     QApplication::setStyle(new BaseStyle);
     m_material = std::make_unique<SweepMaterial>();
 }
