@@ -8,6 +8,7 @@
 #include "style/drawing/Focus.h"
 #include "style/drawing/Lines.h"
 #include "style/drawing/Shapes.h"
+#include "style/families/SliderParts.h"
 #include "style/polishing/Polishing.h"
 
 #include <QtGui/QPainter>
@@ -19,15 +20,6 @@
 namespace TARN::Sliders {
 
 namespace {
-
-/// Ticks that are closer to each other than this would look like a bar.
-constexpr int minimumTickDistance = 3;
-
-/// More ticks than that fit no screen.
-constexpr qint64 maximumTickCount = 4096;
-
-/// Between the handle and the ticks, and between these and the edge of the slider.
-constexpr int tickGap = 2;
 
 struct RangeSliderBrush
 {
@@ -176,15 +168,13 @@ void drawGroove(const Look &look)
 /// multiple of it that leaves room between the ticks.
 qint64 tickInterval(const QStyleOptionSlider &option, qint64 range, int available)
 {
-    const qint64 most = qBound<qint64>(1, available / minimumTickDistance, maximumTickCount);
     qint64 interval = option.tickInterval;
     if (interval <= 0) {
-        const bool areStepsApart = option.singleStep > 0 && range / option.singleStep <= most;
+        const bool areStepsApart =
+            option.singleStep > 0 && range / option.singleStep <= mostTicks(available);
         interval = areStepsApart ? option.singleStep : option.pageStep;
     }
-    interval = qMax<qint64>(1, interval);
-    const qint64 count = range / interval;
-    return count > most ? interval * ((count + most - 1) / most) : interval;
+    return sparseInterval(interval, range, available);
 }
 
 /// Returns the strip along the slider in which ticks stand, before or after the groove.
@@ -251,17 +241,11 @@ void drawTicks(const Look &look)
     }
 }
 
-const QBrush &handleBrush(const QStyleOptionSlider &option)
+const QBrush &currentHandleBrush(const QStyleOptionSlider &option)
 {
-    if (isEnabled(option) && option.activeSubControls.testFlag(QStyle::SC_SliderHandle)) {
-        if (has(option, QStyle::State_Sunken)) {
-            return themeBrush(BrushName::SliderThumbNailPressedBrush, true);
-        }
-        if (has(option, QStyle::State_MouseOver)) {
-            return themeBrush(BrushName::SliderThumbNailHoverBrush, true);
-        }
-    }
-    return themeBrush(BrushName::InputForegroundBrush, isEnabled(option));
+    const bool isUsed = option.activeSubControls.testFlag(QStyle::SC_SliderHandle);
+    return handleBrush(isEnabled(option), isUsed && has(option, QStyle::State_Sunken),
+                       isUsed && has(option, QStyle::State_MouseOver));
 }
 
 void drawHandle(const Look &look)
@@ -274,12 +258,12 @@ void drawHandle(const Look &look)
             : QPen(Qt::NoPen);
     if (rect.width() == rect.height()) {
         // A circle is a square with the roundest corners, which are drawn faster.
-        drawShape(painter, rect, look.handle.width(), pen, handleBrush(look.option));
+        drawShape(painter, rect, look.handle.width(), pen, currentHandleBrush(look.option));
         return;
     }
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(pen);
-    painter.setBrush(handleBrush(look.option));
+    painter.setBrush(currentHandleBrush(look.option));
     painter.drawEllipse(rect);
 }
 

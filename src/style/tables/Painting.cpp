@@ -5,6 +5,7 @@
 #include "style/families/CheckBoxes.h"
 #include "style/families/ComboBoxLists.h"
 #include "style/families/ComboBoxes.h"
+#include "style/families/Dials.h"
 #include "style/families/DockWidgets.h"
 #include "style/families/Frames.h"
 #include "style/families/GroupBoxes.h"
