@@ -2,7 +2,9 @@
 
 #include <QtCore/Qt>
 
+class QBrush;
 class QPainter;
+class QRect;
 
 namespace TARN {
 
@@ -19,5 +21,15 @@ inline constexpr int darkGrip = 1;
 /// row is always a single pixel.
 void drawGrips(QPainter &painter, Qt::Orientation orientation, int from, int to, int across,
                int step = gripStep, int lightSize = lightGrip, int darkSize = darkGrip);
+
+/// \name Grips that stand out from any ground: dots in a colour of the theme
+/// They lie on whole pixels of the device, and inside of \a rect, which may have no room for all.
+/// \{
+/// Draws a row of at most \a count dots in the middle of \a rect.
+void drawDotRow(QPainter &painter, const QRect &rect, Qt::Orientation orientation, int count,
+                const QBrush &brush);
+/// Draws the dots of a triangle, of which the right angle is in the \a corner of \a rect.
+void drawDotTriangle(QPainter &painter, const QRect &rect, Qt::Corner corner, const QBrush &brush);
+/// \}
 
 } // namespace TARN

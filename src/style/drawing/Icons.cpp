@@ -1,5 +1,6 @@
 #include "style/drawing/Icons.h"
 
+#include "common_utils/Helpers.h"
 #include "resources/ThemeColorHelper.h"
 #include "resources/ThemeResources.h"
 #include "resources/kept/KeptValue.h"
@@ -67,6 +68,16 @@ void drawIcon(QPainter &painter, const QRect &rect, const QIcon &icon, QIcon::Mo
 void drawTintedIcon(QPainter &painter, const QRect &rect, const QIcon &icon, const QBrush &brush)
 {
     drawIcon(painter, rect, ThemeColorHelper::getModifiedIconWithForegroundBrush(icon, brush));
+}
+
+QIcon iconInBrush(const QIcon &icon, const QBrush &brush)
+{
+    const QColor inkOnLightGround(0x27, 0x2e, 0x34);
+    // The brush is that of the state: nothing has to be dimmed besides.
+    const bool isDimmed = true;
+    return Helpers::getModifiedIconWithForegroundBrush(
+        ThemeColorHelper::getModifiedIconWithForegroundBrush(icon, brush), inkOnLightGround, brush,
+        isDimmed);
 }
 
 QPixmap iconPixmap(const QIcon &icon, const QSize &size, QIcon::Mode mode, QIcon::State state,

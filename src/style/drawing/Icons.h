@@ -22,6 +22,10 @@ void drawIcon(QPainter &painter, const QRect &rect, const QIcon &icon,
 /// Draws \a icon as above, its foreground painted with \a brush.
 void drawTintedIcon(QPainter &painter, const QRect &rect, const QIcon &icon, const QBrush &brush);
 
+/// Returns \a icon painted with \a brush, be it drawn for dark grounds, as the library's icons are, or
+/// for light ones, as those are that light themes bring.
+QIcon iconInBrush(const QIcon &icon, const QBrush &brush);
+
 /// Returns the picture of \a icon at \a size for the screen of \a widget, which may be null.
 QPixmap iconPixmap(const QIcon &icon, const QSize &size, QIcon::Mode mode, QIcon::State state,
                    const QWidget *widget);

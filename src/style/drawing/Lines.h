@@ -24,4 +24,11 @@ void fillEdge(QPainter &painter, const QRect &rect, Qt::Edge edge, const QBrush 
 void fillFrame(QPainter &painter, const QRect &rect, const QBrush &brush, Line line = Line::Pixel);
 /// \}
 
+/// Fills \a rect, of which the edges are moved to the nearest pixels of the device.
+void fillOnPixels(QPainter &painter, const QRectF &rect, const QBrush &brush);
+
+/// Draws dashes of one pixel along the middle of \a rect, as long as the gaps between them.
+void drawDashes(QPainter &painter, const QRect &rect, Qt::Orientation orientation,
+                const QBrush &brush);
+
 } // namespace TARN

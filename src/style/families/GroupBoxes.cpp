@@ -2,8 +2,11 @@
 
 #include "style/asking/OptionState.h"
 #include "style/brushes/KeptBrushes.h"
+#include "style/drawing/Focus.h"
 #include "style/drawing/Lines.h"
 #include "style/drawing/Shapes.h"
+#include "style/text/ElidedText.h"
+#include "style/text/Mnemonic.h"
 
 #include <QtGui/QPainter>
 #include <QtWidgets/QGroupBox>
@@ -66,6 +69,50 @@ void drawOutline(QPainter &painter, const QRect &rect, const QBrush &border)
     drawShape(painter, outline, radius, outlinePen(border), Qt::NoBrush);
 }
 
+QRect partRect(const PaintRequest &request, const QStyleOptionGroupBox &option,
+               QStyle::SubControl subControl)
+{
+    return request.proxy().subControlRect(QStyle::CC_GroupBox, &option, subControl, request.widget);
+}
+
+void drawFramePart(const PaintRequest &request, const QStyleOptionGroupBox &option)
+{
+    QStyleOptionFrame frame;
+    frame.QStyleOption::operator=(option);
+    frame.features = option.features;
+    frame.lineWidth = option.lineWidth;
+    frame.midLineWidth = option.midLineWidth;
+    frame.rect = partRect(request, option, QStyle::SC_GroupBoxFrame);
+    request.draw(QStyle::PE_FrameGroupBox, frame);
+}
+
+void drawTitle(const PaintRequest &request, const QStyleOptionGroupBox &option)
+{
+    const QRect rect = partRect(request, option, QStyle::SC_GroupBoxLabel);
+    const int flags = mnemonicFlags(request);
+    const bool hasOwnColor = option.textColor.isValid();
+    if (hasOwnColor) {
+        request.painter->setPen(option.textColor);
+    }
+    request.proxy().drawItemText(
+        request.painter, rect,
+        int(QStyle::visualAlignment(option.direction, Qt::AlignLeft) | Qt::AlignVCenter) | flags,
+        option.palette, isEnabled(option),
+        elidedText(option.fontMetrics, option.text, Qt::ElideRight, rect.width(), flags),
+        hasOwnColor ? QPalette::NoRole : QPalette::WindowText);
+    if (has(option, QStyle::State_HasFocus)) {
+        drawFocusRect(request, rect);
+    }
+}
+
+void drawCheckBox(const PaintRequest &request, const QStyleOptionGroupBox &option)
+{
+    QStyleOptionButton checkBox;
+    checkBox.QStyleOption::operator=(option);
+    checkBox.rect = partRect(request, option, QStyle::SC_GroupBoxCheckBox);
+    request.draw(QStyle::PE_IndicatorCheckBox, checkBox);
+}
+
 /// Has \a draw paint inside of \a region only.
 template <typename Draw>
 void drawClipped(QPainter &painter, const QRegion &region, Draw draw)
@@ -114,6 +161,30 @@ bool drawFrame(const PaintRequest &request)
     }
     const QRegion region = QRegion(option.rect) - title;
     drawClipped(painter, region, [&] { draw(painter, option.rect, border); });
+    return true;
+}
+
+QRect boundedSubControlRect(const SubControlRequest &request)
+{
+    const QRect rect = subControlRect(request);
+    return request.subControl == QStyle::SC_GroupBoxLabel ? rect & request.option->rect : rect;
+}
+
+bool drawGroupBox(const PaintRequest &request)
+{
+    const auto *option = qstyleoption_cast<const QStyleOptionGroupBox *>(request.option);
+    if (!option) {
+        return false;
+    }
+    if (option->subControls.testFlag(QStyle::SC_GroupBoxFrame)) {
+        drawFramePart(request, *option);
+    }
+    if (option->subControls.testFlag(QStyle::SC_GroupBoxLabel) && !option->text.isEmpty()) {
+        drawTitle(request, *option);
+    }
+    if (option->subControls.testFlag(QStyle::SC_GroupBoxCheckBox)) {
+        drawCheckBox(request, *option);
+    }
     return true;
 }
 

@@ -8,6 +8,7 @@
 #include "style/families/ScrollBars.h"
 #include "style/families/Sliders.h"
 #include "style/families/SpinBoxes.h"
+#include "style/families/ToolBoxes.h"
 #include "style/families/buttons/PushButtons.h"
 #include "style/families/buttons/ToolButtons.h"
 #include "style/families/item_views/Headers.h"
@@ -53,6 +54,7 @@ constexpr Row<QStyle::SubElement, SubElementRule> subElementTable[] = {
     {QStyle::SE_HeaderArrow, nullptr, Headers::arrowRect},
     {QStyle::SE_TabBarTabRightButton, Tabs::rightButtonRect},
     {QStyle::SE_TabBarTabText, Tabs::textRect},
+    {QStyle::SE_ToolBoxTabContents, nullptr, ToolBoxes::contentsRect},
 };
 
 constexpr Row<QStyle::ComplexControl, SubControlRule> subControlTable[] = {
@@ -60,7 +62,7 @@ constexpr Row<QStyle::ComplexControl, SubControlRule> subControlTable[] = {
     {QStyle::CC_ComboBox, ComboBoxes::subControlRect, ComboBoxes::subControlRectWithList},
     {QStyle::CC_ScrollBar, ScrollBars::subControlRect},
     {QStyle::CC_Slider, Sliders::subControlRect},
-    {QStyle::CC_GroupBox, GroupBoxes::subControlRect},
+    {QStyle::CC_GroupBox, GroupBoxes::subControlRect, GroupBoxes::boundedSubControlRect},
 };
 
 constexpr Row<QStyle::ContentsType, ContentsRule> contentsTable[] = {
