@@ -342,14 +342,15 @@ BaseStyle::commonCallButtonText<QStyleOptionButton>(const QStyleOption *option,
 QIcon BaseStyle::standardIcon(StandardPixmap sp, const QStyleOption *option,
                               const QWidget *widget) const
 {
-    const std::optional<QIcon> own = standardIconOf(sp, option, widget, m_state->palette);
+    const std::optional<QIcon> own =
+        standardIconOf(sp, option, widget, m_state->palette, m_state->mode);
     return own ? *own : QProxyStyle::standardIcon(sp, option, widget);
 }
 
 QPixmap BaseStyle::standardPixmap(StandardPixmap sp, const QStyleOption *option,
                                   const QWidget *widget) const
 {
-    const std::optional<QPixmap> own = standardPixmapOf(sp);
+    const std::optional<QPixmap> own = standardPixmapOf(sp, m_state->mode);
     return own ? *own : QProxyStyle::standardPixmap(sp, option, widget);
 }
 

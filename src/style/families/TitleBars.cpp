@@ -49,6 +49,18 @@ constexpr Button buttons[] = {
     {QStyle::SC_TitleBarUnshadeButton, QStyle::SP_TitleBarUnshadeButton, Qt::WindowShadeButtonHint},
 };
 
+struct MdiButton
+{
+    QStyle::SubControl subControl;
+    QStyle::StandardPixmap pixmap;
+};
+
+constexpr MdiButton mdiButtons[] = {
+    {QStyle::SC_MdiMinButton, QStyle::SP_TitleBarMinButton},
+    {QStyle::SC_MdiNormalButton, QStyle::SP_TitleBarNormalButton},
+    {QStyle::SC_MdiCloseButton, QStyle::SP_TitleBarCloseButton},
+};
+
 bool isActive(const QStyleOptionTitleBar &option)
 {
     return (option.titleBarState & QStyle::State_Active) != 0;
@@ -94,52 +106,38 @@ void drawTitle(const PaintRequest &request, const QStyleOptionTitleBar &option)
         title);
 }
 
-void drawWindowIcon(const PaintRequest &request, const QStyleOptionTitleBar &option)
+using Tint = QIcon (*)(const QIcon &icon, const QBrush &brush);
+
+/// Tints an icon of the library's. One that the theme brings in its own colour stays as it is.
+QIcon tinted(const QIcon &icon, const QBrush &brush)
+{
+    return ThemeColorHelper::getModifiedIconWithForegroundBrush(icon, brush);
+}
+
+void drawWindowIcon(const PaintRequest &request, const QStyleOptionTitleBar &option, Tint tint)
 {
     const QRect rect = request.proxy().subControlRect(QStyle::CC_TitleBar, &option,
                                                       QStyle::SC_TitleBarSysMenu, request.widget);
     if (!rect.isValid()) {
         return;
     }
-    const QIcon icon =
-        option.icon.isNull()
-            ? request.proxy().standardIcon(QStyle::SP_TitleBarMenuButton, &option, request.widget)
-            : option.icon;
+    const QIcon icon = option.icon.isNull()
+                           ? tint(request.proxy().standardIcon(QStyle::SP_TitleBarMenuButton,
+                                                               &option, request.widget),
+                                  titleColor(option))
+                           : option.icon;
     const QIcon::Mode mode = isEnabled(option) ? QIcon::Normal : QIcon::Disabled;
     request.proxy().drawItemPixmap(request.painter, rect, Qt::AlignCenter,
                                    pictureOf(icon, request.widget, mode));
 }
 
-} // namespace
-
-bool drawTitleBar(const PaintRequest &request)
-{
-    const auto *option = qstyleoption_cast<const QStyleOptionTitleBar *>(request.option);
-    if (!option) {
-        return false;
-    }
-    drawFace(*request.painter, *option);
-    if (option->subControls.testFlag(QStyle::SC_TitleBarLabel)) {
-        drawTitle(request, *option);
-    }
-    for (const Button &button : buttons) {
-        const bool isWanted = !button.hint || option->titleBarFlags.testFlag(button.hint);
-        if (isWanted && option->subControls.testFlag(button.subControl)) {
-            drawButton(request, *option, button.subControl, button.pixmap);
-        }
-    }
-    if (option->subControls.testFlag(QStyle::SC_TitleBarSysMenu)) {
-        drawWindowIcon(request, *option);
-    }
-    return true;
-}
-
-void drawButton(const PaintRequest &request, const QStyleOptionTitleBar &option,
-                QStyle::SubControl subControl, QStyle::StandardPixmap standardPixmap)
+/// Draws one button of a title bar, or of the menu bar.
+void drawButtonOf(const PaintRequest &request, QStyle::ComplexControl control,
+                  const QStyleOptionComplex &option, QStyle::SubControl subControl,
+                  QStyle::StandardPixmap standardPixmap, Tint tint)
 {
     const QStyle &proxy = request.proxy();
-    const QRect rect =
-        proxy.subControlRect(QStyle::CC_TitleBar, &option, subControl, request.widget);
+    const QRect rect = proxy.subControlRect(control, &option, subControl, request.widget);
     if (!rect.isValid()) {
         return;
     }
@@ -153,10 +151,65 @@ void drawButton(const PaintRequest &request, const QStyleOptionTitleBar &option,
                             QStyle::State_Sunken | QStyle::State_MouseOver);
     }
     request.draw(QStyle::PE_PanelButtonBevel, button);
-    const QIcon icon = ThemeColorHelper::getModifiedIconWithForegroundBrush(
-        request.style.standardIcon(standardPixmap, &option, request.widget),
-        buttonBrushes(&button, request.widget).foreground);
+    const QIcon icon = tint(request.style.standardIcon(standardPixmap, &option, request.widget),
+                            buttonBrushes(&button, request.widget).foreground);
     proxy.drawItemPixmap(request.painter, rect, Qt::AlignCenter, pictureOf(icon, request.widget));
+}
+
+bool paint(const PaintRequest &request, Tint tint)
+{
+    const auto *option = qstyleoption_cast<const QStyleOptionTitleBar *>(request.option);
+    if (!option) {
+        return false;
+    }
+    drawFace(*request.painter, *option);
+    if (option->subControls.testFlag(QStyle::SC_TitleBarLabel)) {
+        drawTitle(request, *option);
+    }
+    for (const Button &button : buttons) {
+        const bool isWanted = !button.hint || option->titleBarFlags.testFlag(button.hint);
+        if (isWanted && option->subControls.testFlag(button.subControl)) {
+            drawButtonOf(request, QStyle::CC_TitleBar, *option, button.subControl, button.pixmap,
+                         tint);
+        }
+    }
+    if (option->subControls.testFlag(QStyle::SC_TitleBarSysMenu)) {
+        drawWindowIcon(request, *option, tint);
+    }
+    return true;
+}
+
+} // namespace
+
+bool drawTitleBar(const PaintRequest &request)
+{
+    return paint(request, tinted);
+}
+
+bool drawTintedTitleBar(const PaintRequest &request)
+{
+    return paint(request, iconInBrush);
+}
+
+void drawButton(const PaintRequest &request, const QStyleOptionTitleBar &option,
+                QStyle::SubControl subControl, QStyle::StandardPixmap standardPixmap)
+{
+    drawButtonOf(request, QStyle::CC_TitleBar, option, subControl, standardPixmap, tinted);
+}
+
+bool drawMdiControls(const PaintRequest &request)
+{
+    const auto *option = qstyleoption_cast<const QStyleOptionComplex *>(request.option);
+    if (!option) {
+        return false;
+    }
+    for (const MdiButton &button : mdiButtons) {
+        if (option->subControls.testFlag(button.subControl)) {
+            drawButtonOf(request, QStyle::CC_MdiControls, *option, button.subControl, button.pixmap,
+                         iconInBrush);
+        }
+    }
+    return true;
 }
 
 } // namespace TARN::TitleBars

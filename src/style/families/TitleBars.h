@@ -13,5 +13,9 @@ void drawButton(const PaintRequest &request, const QStyleOptionTitleBar &option,
                 QStyle::SubControl subControl, QStyle::StandardPixmap standardPixmap);
 
 bool drawTitleBar(const PaintRequest &request);
+/// Draws a title bar whose buttons have icons in the colours of their states, be they the theme's.
+bool drawTintedTitleBar(const PaintRequest &request);
+/// Draws the buttons that a maximised sub-window has on the menu bar.
+bool drawMdiControls(const PaintRequest &request);
 
 } // namespace TARN::TitleBars

@@ -6,6 +6,7 @@
 #include "resources/ThemeResources.h"
 #include "resources/kept/KeptValue.h"
 #include "style/asking/Properties.h"
+#include "style/drawing/Icons.h"
 
 #include <QtGui/QImage>
 #include <QtGui/QPixmap>
@@ -23,19 +24,41 @@ constexpr int titleBarIconSize = 16;
 
 constexpr char minimizeIcon[] = "action.app.minimize";
 constexpr char maximizeIcon[] = "action.app.maximize";
+constexpr char restoreIcon[] = "action.app.restore";
 constexpr char closeIcon[] = "action.close";
+constexpr char menuIcon[] = "action.menu";
+constexpr char shadeIcon[] = "chevron.up";
+constexpr char unshadeIcon[] = "chevron.down";
+constexpr char helpIcon[] = "action.help";
 
+/// An icon by default, and in the complete mode. What has none is the base style's.
 struct IconRow
 {
+    constexpr IconRow(QStyle::StandardPixmap ofPixmap, const char *name)
+        : IconRow(ofPixmap, name, name)
+    {
+    }
+    constexpr IconRow(QStyle::StandardPixmap ofPixmap, const char *byDefault, const char *complete)
+        : pixmap(ofPixmap)
+        , ofModes{byDefault, complete}
+    {
+    }
+
     QStyle::StandardPixmap pixmap;
-    const char *name;
+    const char *ofModes[2];
 };
 
+constexpr const char *baseStyles = nullptr;
+
 constexpr IconRow iconTable[] = {
+    {QStyle::SP_TitleBarMenuButton, baseStyles, menuIcon},
     {QStyle::SP_TitleBarMinButton, minimizeIcon},
     {QStyle::SP_TitleBarMaxButton, maximizeIcon},
-    {QStyle::SP_TitleBarNormalButton, maximizeIcon},
+    {QStyle::SP_TitleBarNormalButton, maximizeIcon, restoreIcon},
     {QStyle::SP_TitleBarCloseButton, closeIcon},
+    {QStyle::SP_TitleBarShadeButton, baseStyles, shadeIcon},
+    {QStyle::SP_TitleBarUnshadeButton, baseStyles, unshadeIcon},
+    {QStyle::SP_TitleBarContextHelpButton, baseStyles, helpIcon},
     {QStyle::SP_DockWidgetCloseButton, closeIcon},
     {QStyle::SP_DialogCloseButton, closeIcon},
     {QStyle::SP_LineEditClearButton, closeIcon},
@@ -54,9 +77,16 @@ constexpr IconRow iconTable[] = {
 };
 
 constexpr IconRow titleBarPixmapTable[] = {
-    {QStyle::SP_TitleBarCloseButton, closeIcon},     {QStyle::SP_DockWidgetCloseButton, closeIcon},
-    {QStyle::SP_DialogCloseButton, closeIcon},       {QStyle::SP_TitleBarMaxButton, maximizeIcon},
-    {QStyle::SP_TitleBarNormalButton, maximizeIcon}, {QStyle::SP_TitleBarMinButton, minimizeIcon},
+    {QStyle::SP_TitleBarCloseButton, closeIcon},
+    {QStyle::SP_DockWidgetCloseButton, closeIcon},
+    {QStyle::SP_DialogCloseButton, closeIcon},
+    {QStyle::SP_TitleBarMaxButton, maximizeIcon},
+    {QStyle::SP_TitleBarNormalButton, maximizeIcon, restoreIcon},
+    {QStyle::SP_TitleBarMinButton, minimizeIcon},
+    {QStyle::SP_TitleBarMenuButton, baseStyles, menuIcon},
+    {QStyle::SP_TitleBarShadeButton, baseStyles, shadeIcon},
+    {QStyle::SP_TitleBarUnshadeButton, baseStyles, unshadeIcon},
+    {QStyle::SP_TitleBarContextHelpButton, baseStyles, helpIcon},
 };
 
 /// Icons that are highlighted by another of their colours than the foreground.
@@ -77,16 +107,19 @@ const char *const verticalExtension[] = {"5 8 3 1", "  c None", ". c #000000", "
                                          ".+++.",   "..+..",    "+...+",       "++.++"};
 
 template <std::size_t Size>
-const char *iconName(const IconRow (&table)[Size], QStyle::StandardPixmap pixmap)
+const char *iconName(const IconRow (&table)[Size], QStyle::StandardPixmap pixmap, Mode mode)
 {
     const auto *row = std::find_if(std::begin(table), std::end(table),
                                    [pixmap](const IconRow &each) { return each.pixmap == pixmap; });
-    return row == std::end(table) ? nullptr : row->name;
+    return row == std::end(table) ? nullptr : row->ofModes[static_cast<int>(mode)];
 }
 
-QIcon themeIcon(const char *name)
+/// Returns the icon \a name of the icon theme, to which that of the library stands in where
+/// nothing is left to the base style.
+QIcon themeIcon(const char *name, Mode mode)
 {
-    return QIcon::fromTheme(QLatin1String(name));
+    const QIcon icon = QIcon::fromTheme(QLatin1String(name));
+    return icon.isNull() && mode == Mode::Complete ? keptIcon(name) : icon;
 }
 
 QIcon highlightedIcon(const QStyleOption *option, const QWidget *widget)
@@ -124,7 +157,7 @@ QPixmap colored(QImage image, const QColor &color)
 } // namespace
 
 std::optional<QIcon> standardIconOf(QStyle::StandardPixmap pixmap, const QStyleOption *option,
-                                    const QWidget *widget, const QPalette &palette)
+                                    const QWidget *widget, const QPalette &palette, Mode mode)
 {
     if (pixmap == QStyle::SP_CustomBase) {
         return highlightedIcon(option, widget);
@@ -137,15 +170,15 @@ std::optional<QIcon> standardIconOf(QStyle::StandardPixmap pixmap, const QStyleO
         static ProcessKept<QIcon> icon;
         return icon.value([&] { return toolBarExtensionIcon(verticalExtension, palette); });
     }
-    const char *name = iconName(iconTable, pixmap);
-    return name ? std::optional<QIcon>(themeIcon(name)) : std::nullopt;
+    const char *name = iconName(iconTable, pixmap, mode);
+    return name ? std::optional<QIcon>(themeIcon(name, mode)) : std::nullopt;
 }
 
-std::optional<QPixmap> standardPixmapOf(QStyle::StandardPixmap pixmap)
+std::optional<QPixmap> standardPixmapOf(QStyle::StandardPixmap pixmap, Mode mode)
 {
-    const char *name = iconName(titleBarPixmapTable, pixmap);
+    const char *name = iconName(titleBarPixmapTable, pixmap, mode);
     return name ? std::optional<QPixmap>(
-                      themeIcon(name).pixmap(QSize(titleBarIconSize, titleBarIconSize)))
+                      themeIcon(name, mode).pixmap(QSize(titleBarIconSize, titleBarIconSize)))
                 : std::nullopt;
 }
 

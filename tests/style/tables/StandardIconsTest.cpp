@@ -7,24 +7,36 @@
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QStyleOption>
 
+#include <support/TestedMode.h>
 #include <support/Text.h>
 #include <support/themes/IconTheme.h>
 #include <support/themes/UniqueTheme.h>
 
 using TARN::BaseStyle;
 
+Q_DECLARE_METATYPE(QStyle::StandardPixmap)
+
 namespace {
 
+/// An icon by default, and in the complete mode where that has another one.
 struct IconRow
 {
     QStyle::StandardPixmap pixmap;
-    const char *name;
+    const char *byDefault; ///< null where it is the base style's
+    const char *complete = byDefault;
+
+    QString name() const { return text(testsCompleteMode() ? complete : byDefault); }
+    bool isLeft() const { return !byDefault && !testsCompleteMode(); }
 };
 
 constexpr IconRow iconRows[] = {
+    {QStyle::SP_TitleBarMenuButton, nullptr, "action.menu"},
+    {QStyle::SP_TitleBarShadeButton, nullptr, "chevron.up"},
+    {QStyle::SP_TitleBarUnshadeButton, nullptr, "chevron.down"},
+    {QStyle::SP_TitleBarContextHelpButton, nullptr, "action.help"},
     {QStyle::SP_TitleBarMinButton, "action.app.minimize"},
     {QStyle::SP_TitleBarMaxButton, "action.app.maximize"},
-    {QStyle::SP_TitleBarNormalButton, "action.app.maximize"},
+    {QStyle::SP_TitleBarNormalButton, "action.app.maximize", "action.app.restore"},
     {QStyle::SP_TitleBarCloseButton, "action.close"},
     {QStyle::SP_DockWidgetCloseButton, "action.close"},
     {QStyle::SP_DialogCloseButton, "action.close"},
@@ -43,23 +55,32 @@ constexpr IconRow iconRows[] = {
     {QStyle::SP_CommandLink, "arrow.right.small"},
 };
 
-constexpr IconRow pixmapRows[] = {
-    {QStyle::SP_TitleBarMinButton, "action.app.minimize"},
-    {QStyle::SP_TitleBarMaxButton, "action.app.maximize"},
-    {QStyle::SP_TitleBarNormalButton, "action.app.maximize"},
-    {QStyle::SP_TitleBarCloseButton, "action.close"},
-    {QStyle::SP_DockWidgetCloseButton, "action.close"},
-    {QStyle::SP_DialogCloseButton, "action.close"},
-};
+/// The first ones have a picture, too.
+constexpr int pixmapRowCount = 10;
 
 constexpr QStyle::StandardPixmap extensions[] = {QStyle::SP_ToolBarHorizontalExtensionButton,
                                                  QStyle::SP_ToolBarVerticalExtensionButton};
 
-template <std::size_t Size>
-bool holds(const IconRow (&rows)[Size], QStyle::StandardPixmap pixmap)
+constexpr int iconRowCount = int(std::size(iconRows));
+
+/// Tells whether one of the first \a count rows is that of \a pixmap.
+bool isReplaced(QStyle::StandardPixmap pixmap, int count = iconRowCount)
 {
-    return std::any_of(std::begin(rows), std::end(rows),
-                       [pixmap](const IconRow &row) { return row.pixmap == pixmap; });
+    return std::any_of(iconRows, iconRows + count, [pixmap](const IconRow &row) {
+        return row.pixmap == pixmap && !row.isLeft();
+    });
+}
+
+void addRows(int count)
+{
+    QTest::addColumn<QStyle::StandardPixmap>("pixmap");
+    QTest::addColumn<QString>("name");
+    const QMetaEnum values = QMetaEnum::fromType<QStyle::StandardPixmap>();
+    for (const IconRow *row = iconRows; row < iconRows + count; ++row) {
+        if (!row->isLeft()) {
+            QTest::newRow(values.valueToKey(row->pixmap)) << row->pixmap << row->name();
+        }
+    }
 }
 
 bool isExtension(QStyle::StandardPixmap pixmap)
@@ -122,8 +143,6 @@ QColor centre(const QPixmap &pixmap)
 
 } // namespace
 
-Q_DECLARE_METATYPE(QStyle::StandardPixmap)
-
 /// The theme's icons in the place of the toolkit's.
 class StandardIconsTest : public QObject
 {
@@ -152,22 +171,15 @@ private Q_SLOTS:
              {"action.app.minimize", "action.app.maximize", "action.close", "action.delete",
               "status.info.circular.colored", "status.warning.circular.colored",
               "status.danger.circular.colored", "status.help.circular.colored", "arrow.up.small",
-              "arrow.down.small", "arrow.left.small", "arrow.right.small"}) {
+              "arrow.down.small", "arrow.left.small", "arrow.right.small", "action.app.restore",
+              "action.menu", "action.help", "chevron.up", "chevron.down"}) {
             m_icons.add(text(name));
         }
         m_icons.add(text("plain"), referenceForeground);
         m_icons.add(text("amber"), QColor(0xf6, 0xb4, 0x36));
     }
 
-    void icons_data()
-    {
-        QTest::addColumn<QStyle::StandardPixmap>("pixmap");
-        QTest::addColumn<QString>("name");
-        const QMetaEnum values = QMetaEnum::fromType<QStyle::StandardPixmap>();
-        for (const IconRow &row : iconRows) {
-            QTest::newRow(values.valueToKey(row.pixmap)) << row.pixmap << text(row.name);
-        }
-    }
+    void icons_data() { addRows(iconRowCount); }
 
     void icons()
     {
@@ -183,7 +195,7 @@ private Q_SLOTS:
     {
         int others = 0;
         for (const QStyle::StandardPixmap pixmap : allPixmaps()) {
-            if (!holds(iconRows, pixmap) && !isExtension(pixmap)) {
+            if (!isReplaced(pixmap) && !isExtension(pixmap)) {
                 QCOMPARE(imageOf(m_style.standardIcon(pixmap)),
                          imageOf(m_base.standardIcon(pixmap)));
                 ++others;
@@ -192,15 +204,7 @@ private Q_SLOTS:
         QVERIFY(others > 40);
     }
 
-    void pixmaps_data()
-    {
-        QTest::addColumn<QStyle::StandardPixmap>("pixmap");
-        QTest::addColumn<QString>("name");
-        const QMetaEnum values = QMetaEnum::fromType<QStyle::StandardPixmap>();
-        for (const IconRow &row : pixmapRows) {
-            QTest::newRow(values.valueToKey(row.pixmap)) << row.pixmap << text(row.name);
-        }
-    }
+    void pixmaps_data() { addRows(pixmapRowCount); }
 
     void pixmaps()
     {
@@ -214,7 +218,7 @@ private Q_SLOTS:
     void otherPixmapsAreTheBaseStyles()
     {
         for (const QStyle::StandardPixmap pixmap : allPixmaps()) {
-            if (!holds(pixmapRows, pixmap)) {
+            if (!isReplaced(pixmap, pixmapRowCount)) {
                 QCOMPARE(m_style.standardPixmap(pixmap, nullptr).toImage(),
                          m_base.standardPixmap(pixmap, nullptr).toImage());
             }
