@@ -30,6 +30,7 @@
 #include "style/families/item_views/Items.h"
 #include "style/families/menus/MenuBars.h"
 #include "style/families/menus/MenuItems.h"
+#include "style/families/menus/MenuParts.h"
 #include "style/families/menus/MenuSurfaces.h"
 #include "style/families/tabs/TabLabels.h"
 #include "style/families/tabs/TabShapes.h"

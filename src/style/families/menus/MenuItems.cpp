@@ -6,7 +6,6 @@
 #include "style/asking/Properties.h"
 #include "style/brushes/ButtonBrushChoice.h"
 #include "style/drawing/Icons.h"
-#include "style/drawing/Lines.h"
 #include "style/drawing/Marks.h"
 #include "style/drawing/Palettes.h"
 #include "style/drawing/Shapes.h"
@@ -16,8 +15,6 @@
 
 #include <QtGui/QPainter>
 #include <QtWidgets/QComboBox>
-#include <QtWidgets/QMenu>
-#include <QtWidgets/qdrawutil.h>
 
 namespace TARN::Menus {
 
@@ -48,7 +45,6 @@ private:
     bool isMarked() const;
     bool hasMarkColumn() const;
 
-    const QBrush &textBrush() const;
     QBrush iconBrush() const;
     QIcon::Mode iconMode() const;
     QRect visual(const QRect &rect) const;
@@ -59,7 +55,6 @@ private:
     int textColumn() const;
 
     void drawSurface() const;
-    void drawOutline() const;
     void drawSeparator() const;
     int drawSectionTitle() const;
     void drawMark() const;
@@ -82,7 +77,7 @@ EntryPainter::EntryPainter(const QStyleOptionMenuItem &option, const PaintReques
     , m_request(request)
     , m_painter(*request.painter)
     , m_widget(request.widget)
-    , m_isHighlighted(isEnabled(option) && has(option, QStyle::State_Selected))
+    , m_isHighlighted(isHighlighted(option))
     , m_isComboBoxEntry(isSet(request.widget, Property::ComboBoxPopupItem) ||
                         qobject_cast<const QComboBox *>(request.widget))
 {
@@ -93,10 +88,10 @@ void EntryPainter::paint() const
     drawSurface();
     if (isSeparator()) {
         drawSeparator();
-        drawOutline();
+        drawCoveredOutline(m_request);
         return;
     }
-    drawOutline();
+    drawCoveredOutline(m_request);
     if (isMarked()) {
         drawMark();
     }
@@ -130,25 +125,17 @@ bool EntryPainter::hasMarkColumn() const
            m_option.checkType != QStyleOptionMenuItem::NotCheckable;
 }
 
-const QBrush &EntryPainter::textBrush() const
-{
-    if (!isEnabled(m_option)) {
-        return m_option.palette.brush(QPalette::Disabled, QPalette::Text);
-    }
-    return m_option.palette.brush(m_isHighlighted ? QPalette::HighlightedText : QPalette::Text);
-}
-
 /// Returns the brush that tints the icon: that of a button at rest, for a check mark tells what is
 /// checked; where such a button could not be seen, that of the text.
 QBrush EntryPainter::iconBrush() const
 {
     if (m_isHighlighted || !isEnabled(m_option)) {
-        return textBrush();
+        return textBrush(m_option);
     }
     QStyleOption atRest(m_option);
     atRest.state = QStyle::State_Enabled;
     const QBrush brush = buttonBrushes(&atRest, m_widget).foreground;
-    return brush.style() == Qt::NoBrush ? textBrush() : brush;
+    return brush.style() == Qt::NoBrush ? textBrush(m_option) : brush;
 }
 
 /// Icons that take no tint may have a picture of their own to be seen on the highlight.
@@ -208,28 +195,6 @@ void EntryPainter::drawSurface() const
     }
 }
 
-/// Draws what the entry covers of the outline of its menu: the entries reach to the edge, and
-/// without it a menu could not be told from the one below.
-void EntryPainter::drawOutline() const
-{
-    const auto *menu = qobject_cast<const QMenu *>(m_widget);
-    if (!menu) {
-        return;
-    }
-    const QRect outer = menu->rect();
-    const QRect covered = outer & m_option.rect;
-    const QBrush brush(outlineColor(m_option));
-    const auto draw = [&](Qt::Edge side, bool isReached) {
-        if (isReached) {
-            fillEdge(m_painter, covered, side, brush);
-        }
-    };
-    draw(Qt::LeftEdge, covered.left() == outer.left());
-    draw(Qt::RightEdge, covered.right() == outer.right());
-    draw(Qt::TopEdge, covered.top() == outer.top());
-    draw(Qt::BottomEdge, covered.bottom() == outer.bottom());
-}
-
 /// Draws a line across the entry, after its title if it has one.
 void EntryPainter::drawSeparator() const
 {
@@ -263,9 +228,9 @@ void EntryPainter::drawMark() const
     const QRect square = QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter,
                                              QSize(extent, extent), column(edge, extent));
     if (m_option.checkType == QStyleOptionMenuItem::Exclusive) {
-        drawRadioMark(m_painter, square, textBrush());
+        drawRadioMark(m_painter, square, textBrush(m_option));
     } else {
-        drawCheckMark(m_painter, square, textBrush());
+        drawCheckMark(m_painter, square, textBrush(m_option));
     }
 }
 
@@ -283,7 +248,7 @@ void EntryPainter::drawIcon() const
 /// Draws the label and, in a column of its own, the shortcut.
 void EntryPainter::drawTexts() const
 {
-    m_painter.setPen(outlinePen(textBrush()));
+    m_painter.setPen(outlinePen(textBrush(m_option)));
     const int end = isSubMenu() ? endOfTextWithArrow : endOfText;
     const QRect &rect = m_option.rect;
     QRect room(rect.left() + textColumn(), rect.top(), rect.width() - textColumn() - end,
@@ -326,8 +291,8 @@ void EntryPainter::drawArrow() const
         QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, QSize(arrowExtent, arrowExtent),
                             column(m_option.rect.width() - edge - arrowExtent, arrowExtent));
     arrow.state = m_option.state & (QStyle::State_Enabled | QStyle::State_Selected);
-    arrow.palette.setBrush(QPalette::WindowText, textBrush());
-    arrow.palette.setBrush(QPalette::ButtonText, textBrush());
+    arrow.palette.setBrush(QPalette::WindowText, textBrush(m_option));
+    arrow.palette.setBrush(QPalette::ButtonText, textBrush(m_option));
     m_request.proxy().drawPrimitive(isRightToLeft(m_option) ? QStyle::PE_IndicatorArrowLeft
                                                             : QStyle::PE_IndicatorArrowRight,
                                     &arrow, &m_painter, m_widget);
