@@ -5,6 +5,7 @@
 #include "style/asking/Backgrounds.h"
 #include "style/asking/OptionState.h"
 #include "style/brushes/InputBrushes.h"
+#include "style/drawing/Icons.h"
 #include "style/drawing/Palettes.h"
 #include "style/drawing/Shapes.h"
 
@@ -140,15 +141,22 @@ QRect signRect(const QRect &face)
     return QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, {extent, extent}, face);
 }
 
-/// Returns where the arrow is drawn, in the middle of the face: the base style draws arrows that
+using ArrowRect = QRect (*)(const StepButton &button, const QRect &face);
+
+/// Returns where the base style's arrow is drawn, in the middle of the face: it draws arrows that
 /// point down one pixel lower.
-QRect arrowRect(const StepButton &button, const QRect &face)
+QRect baseArrowRect(const StepButton &button, const QRect &face)
 {
     return button.arrow == QStyle::PE_IndicatorSpinDown ? face.translated(0, -1) : face;
 }
 
+QRect ownArrowRect(const StepButton & /*button*/, const QRect &face)
+{
+    return face;
+}
+
 void drawStepButton(const PaintRequest &request, const QStyleOptionSpinBox &option,
-                    const StepButton &button)
+                    const StepButton &button, ArrowRect arrowRect)
 {
     const QRect part = request.proxy().subControlRect(QStyle::CC_SpinBox, &option,
                                                       button.subControl, request.widget);
@@ -174,6 +182,37 @@ void drawStepButton(const PaintRequest &request, const QStyleOptionSpinBox &opti
     request.painter->setRenderHint(QPainter::Antialiasing, false);
     request.draw(hasSign ? button.sign : button.arrow, indicator);
     request.painter->restore();
+}
+
+bool paint(const PaintRequest &request, ArrowRect arrowRect)
+{
+    const auto *option = qstyleoption_cast<const QStyleOptionSpinBox *>(request.option);
+    if (!option) {
+        return false;
+    }
+    drawField(request, option->frame);
+    for (const StepButton &button : stepButtons) {
+        if (option->subControls.testFlag(button.subControl) &&
+            option->buttonSymbols != QAbstractSpinBox::NoButtons) {
+            drawStepButton(request, *option, button, arrowRect);
+        }
+    }
+    return true;
+}
+
+/// Draws an icon that fills the middle half of its square: the room is for what is seen of it.
+bool drawArrow(const PaintRequest &request, const char *icon)
+{
+    const QRect &room = request.option->rect;
+    const int extent =
+        qMin(request.metric(QStyle::PM_SmallIconSize), 2 * qMin(room.width(), room.height()));
+    if (extent > 0) {
+        drawTintedIcon(
+            *request.painter,
+            QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, QSize(extent, extent), room),
+            keptIcon(icon), request.option->palette.buttonText());
+    }
+    return true;
 }
 
 /// The bars of a plus or a minus.
@@ -269,20 +308,24 @@ bool drawPlus(const PaintRequest &request)
     return true;
 }
 
+bool drawUp(const PaintRequest &request)
+{
+    return drawArrow(request, "chevron.up.small");
+}
+
+bool drawDown(const PaintRequest &request)
+{
+    return drawArrow(request, "chevron.down.small");
+}
+
 bool drawSpinBox(const PaintRequest &request)
 {
-    const auto *option = qstyleoption_cast<const QStyleOptionSpinBox *>(request.option);
-    if (!option) {
-        return false;
-    }
-    drawField(request, option->frame);
-    for (const StepButton &button : stepButtons) {
-        if (option->subControls.testFlag(button.subControl) &&
-            option->buttonSymbols != QAbstractSpinBox::NoButtons) {
-            drawStepButton(request, *option, button);
-        }
-    }
-    return true;
+    return paint(request, baseArrowRect);
+}
+
+bool drawSpinBoxWithOwnArrows(const PaintRequest &request)
+{
+    return paint(request, ownArrowRect);
 }
 
 } // namespace TARN::SpinBoxes
