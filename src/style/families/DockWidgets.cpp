@@ -22,6 +22,8 @@ namespace {
 constexpr int gripRoom = lightGrip + 6;
 /// Four grips across the title bar reach that far to both sides of its middle.
 constexpr int gripReach = 5;
+/// How many dots show where a dock can be resized.
+constexpr int handleDots = 5;
 
 void drawTitleGrips(QPainter &painter, const QStyleOptionDockWidget &title, const QRect &textRect)
 {
@@ -132,6 +134,20 @@ bool drawTitle(const PaintRequest &request)
     if (!title->title.isEmpty() && !textRect.isEmpty()) {
         drawText(request, *title, textRect);
     }
+    return true;
+}
+
+bool drawResizeHandle(const PaintRequest &request)
+{
+    const QStyleOption &option = *request.option;
+    const QRect &rect = option.rect;
+    const bool isUsed = isEnabled(option) &&
+                        (has(option, QStyle::State_MouseOver) || has(option, QStyle::State_Sunken));
+    const QBrush &brush = isUsed
+                              ? themeBrush(BrushName::MainBrush, true)
+                              : themeBrush(BrushName::ForegroundDisabledBrush, isEnabled(option));
+    drawDotRow(*request.painter, rect,
+               rect.width() >= rect.height() ? Qt::Horizontal : Qt::Vertical, handleDots, brush);
     return true;
 }
 

@@ -190,4 +190,14 @@ bool drawShapedFrame(const PaintRequest &request)
     return true;
 }
 
+bool drawFocusFrame(const PaintRequest &request)
+{
+    const QStyleOption &option = *request.option;
+    const QBrush &brush = themeBrush(BrushName::MainBrush, isEnabled(option));
+    const int lines = qMin(request.metric(QStyle::PM_FocusFrameHMargin),
+                           request.metric(QStyle::PM_FocusFrameVMargin));
+    drawBorder(*request.painter, option.rect, lines, brush, brush);
+    return true;
+}
+
 } // namespace TARN::Frames

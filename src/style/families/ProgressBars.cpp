@@ -199,6 +199,17 @@ bool drawGroove(const PaintRequest &request)
     return true;
 }
 
+bool drawChunk(const PaintRequest &request)
+{
+    const QStyleOption &option = *request.option;
+    const auto *bar = qstyleoption_cast<const QStyleOptionProgressBar *>(&option);
+    const bool enabled = isEnabled(option);
+    drawShape(*request.painter, onHalfPixel(option.rect), cornerRadius(CornerSize::Base),
+              outlinePen(cardBorderBrush(enabled)),
+              bar ? chunkBrush(*bar) : themeBrush(BrushName::MainBrush, enabled));
+    return true;
+}
+
 bool drawContents(const PaintRequest &request)
 {
     const auto *bar = qstyleoption_cast<const QStyleOptionProgressBar *>(request.option);

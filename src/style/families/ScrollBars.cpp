@@ -5,7 +5,9 @@
 #include "style/asking/Properties.h"
 #include "style/brushes/ButtonBrushChoice.h"
 #include "style/brushes/KeptBrushes.h"
+#include "style/brushes/LabelBrushes.h"
 #include "style/drawing/Focus.h"
+#include "style/drawing/Icons.h"
 #include "style/drawing/Shapes.h"
 
 #include <QtGui/QPainter>
@@ -121,9 +123,18 @@ QStyle::PrimitiveElement lineArrow(const QStyleOption &option, bool isTowardsEnd
                                                  : QStyle::PE_IndicatorArrowLeft;
 }
 
-/// Draws a button at an end of the scroll bar. It has a face only while the mouse is on it: a
-/// scroll bar at rest is calm.
-bool drawLine(const PaintRequest &request, bool isTowardsEnd)
+/// Returns the icon of a button that leads to one end of the scroll bar.
+const char *endIcon(const QStyleOption &option, bool isTowardsEnd)
+{
+    if (!isHorizontal(option)) {
+        return isTowardsEnd ? "chevron.double.down" : "chevron.double.up";
+    }
+    return isTowardsEnd != isRightToLeft(option) ? "chevron.double.right" : "chevron.double.left";
+}
+
+/// Draws the face of a button. It has one only while the mouse is on it: a scroll bar at rest is
+/// calm.
+void drawFace(const PaintRequest &request)
 {
     const QStyleOption &option = *request.option;
     if (isHovered(option) || has(option, QStyle::State_Sunken)) {
@@ -132,8 +143,33 @@ bool drawLine(const PaintRequest &request, bool isTowardsEnd)
         drawShape(*request.painter, face, cornerRadius(CornerSize::Base), Qt::NoPen,
                   buttonBrushes(&option, request.widget).background);
     }
+}
+
+/// Draws a button at an end of the scroll bar.
+bool drawLine(const PaintRequest &request, bool isTowardsEnd)
+{
+    const QStyleOption &option = *request.option;
+    drawFace(request);
     request.proxy().drawPrimitive(lineArrow(option, isTowardsEnd), &option, request.painter,
                                   request.widget);
+    return true;
+}
+
+/// Draws a button that leads to one end at once.
+bool drawEnd(const PaintRequest &request, bool isTowardsEnd)
+{
+    const QStyleOption &option = *request.option;
+    const int extent = qMin(request.metric(QStyle::PM_ScrollBarExtent),
+                            qMin(option.rect.width(), option.rect.height()));
+    if (extent <= 0) {
+        return true;
+    }
+    drawFace(request);
+    drawTintedIcon(
+        *request.painter,
+        QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, QSize(extent, extent), option.rect),
+        keptIcon(endIcon(option, isTowardsEnd)),
+        labelBrush(buttonBrushes(&option, request.widget).foreground, isEnabled(option)));
     return true;
 }
 
@@ -174,6 +210,22 @@ bool drawCorner(const PaintRequest &request)
 {
     fillGroove(request);
     return true;
+}
+
+bool drawPage(const PaintRequest &request)
+{
+    fillGroove(request);
+    return true;
+}
+
+bool drawFirst(const PaintRequest &request)
+{
+    return drawEnd(request, false);
+}
+
+bool drawLast(const PaintRequest &request)
+{
+    return drawEnd(request, true);
 }
 
 bool drawAddLine(const PaintRequest &request)

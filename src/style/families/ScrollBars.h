@@ -11,6 +11,10 @@ QRect subControlRect(const SubControlRequest &request);
 QSize scrollBarSize(const ContentsRequest &request);
 
 bool drawCorner(const PaintRequest &request);
+/// Draws what the handle leaves of the groove.
+bool drawPage(const PaintRequest &request);
+bool drawFirst(const PaintRequest &request);
+bool drawLast(const PaintRequest &request);
 bool drawAddLine(const PaintRequest &request);
 bool drawSubLine(const PaintRequest &request);
 bool drawHandle(const PaintRequest &request);

@@ -49,4 +49,9 @@ bool drawPanel(const PaintRequest &request)
     return true;
 }
 
+bool drawItemFrame(const PaintRequest & /*request*/)
+{
+    return true;
+}
+
 } // namespace TARN::StatusBars

@@ -40,6 +40,13 @@ void drawInnerEdge(QPainter &painter, const QStyleOptionToolBar &option, const Q
     }
 }
 
+/// Tool bars continue the menu bar, and their separators stand out from its ground.
+void fillGround(QPainter &painter, const QStyleOption &option)
+{
+    painter.fillRect(option.rect,
+                     themeBrush(BrushName::BackgroundSubLevel2Brush, isEnabled(option)));
+}
+
 } // namespace
 
 bool drawHandle(const PaintRequest &request)
@@ -89,15 +96,19 @@ bool drawToolBar(const PaintRequest &request)
         return true;
     }
     QPainter &painter = *request.painter;
-    const bool enabled = isEnabled(*option);
-    const QBrush &border = cardBorderBrush(enabled);
-    // Tool bars continue the menu bar, and their separators stand out from its ground.
-    painter.fillRect(option->rect, themeBrush(BrushName::BackgroundSubLevel2Brush, enabled));
+    const QBrush &border = cardBorderBrush(isEnabled(*option));
+    fillGround(painter, *option);
     if (toolBar->isWindow()) {
         fillFrame(painter, option->rect, border);
     } else {
         drawInnerEdge(painter, *option, border);
     }
+    return true;
+}
+
+bool drawPanel(const PaintRequest &request)
+{
+    fillGround(*request.painter, *request.option);
     return true;
 }
 

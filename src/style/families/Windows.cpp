@@ -1,7 +1,9 @@
 #include "style/families/Windows.h"
 
+#include "catalogue/Names.h"
 #include "style/asking/OptionState.h"
 #include "style/brushes/KeptBrushes.h"
+#include "style/drawing/Grips.h"
 #include "style/drawing/Lines.h"
 #include "style/families/Cards.h"
 #include "style/families/DockWidgets.h"
@@ -12,6 +14,7 @@
 #include <QtWidgets/QAbstractScrollArea>
 #include <QtWidgets/QDockWidget>
 #include <QtWidgets/QMainWindow>
+#include <QtWidgets/QStyleOption>
 
 namespace TARN::Windows {
 
@@ -62,6 +65,17 @@ bool drawBackground(const PaintRequest &request)
         return true;
     }
     return DockWidgets::drawBackground(request) || Cards::drawPart(request);
+}
+
+bool drawSizeGrip(const PaintRequest &request)
+{
+    const auto *grip = qstyleoption_cast<const QStyleOptionSizeGrip *>(request.option);
+    if (!grip) {
+        return false;
+    }
+    drawDotTriangle(*request.painter, grip->rect, grip->corner,
+                    themeBrush(BrushName::ForegroundDisabledBrush, isEnabled(*grip)));
+    return true;
 }
 
 } // namespace TARN::Windows

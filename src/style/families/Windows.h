@@ -17,5 +17,6 @@ void polishWindow(Polishing &polishing);
 
 bool drawFrame(const PaintRequest &request);
 bool drawBackground(const PaintRequest &request);
+bool drawSizeGrip(const PaintRequest &request);
 
 } // namespace TARN::Windows

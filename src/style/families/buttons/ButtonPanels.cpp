@@ -99,9 +99,11 @@ QPen panelPen(const QBrush &border, const QBrush &face, const PaintRequest &requ
 
 bool drawDefaultFrame(const PaintRequest &request)
 {
-    if (!qstyleoption_cast<const QStyleOptionButton *>(request.option)) {
-        return false;
-    }
+    return qstyleoption_cast<const QStyleOptionButton *>(request.option) && drawFrame(request);
+}
+
+bool drawFrame(const PaintRequest &request)
+{
     const QBrush border = buttonBrushes(request.option, request.widget).border;
     drawShape(*request.painter, onHalfPixel(request.option->rect), panelRadius(request),
               borderPen(border), Qt::NoBrush);

@@ -1,10 +1,12 @@
 #include "style/families/buttons/ToolButtons.h"
 
+#include "style/asking/Classes.h"
 #include "style/asking/OptionState.h"
 #include "style/asking/Properties.h"
 #include "style/brushes/ButtonBrushChoice.h"
 #include "style/brushes/LabelBrushes.h"
 #include "style/drawing/Icons.h"
+#include "style/families/buttons/ButtonPanels.h"
 #include "style/families/buttons/ButtonParts.h"
 #include "style/text/ElidedText.h"
 #include "style/text/Mnemonic.h"
@@ -161,6 +163,16 @@ QStyle::PrimitiveElement elementOf(Qt::ArrowType arrow)
     }
 }
 
+/// Tells whether a part has a face at all: the buttons of a dock have one only while they are used,
+/// and what is disabled is not used.
+bool hasFace(const QStyleOption &part, const QWidget *widget)
+{
+    if (isA(widget, "QDockWidgetTitleButton")) {
+        return isHovered(part) || (isEnabled(part) && has(part, QStyle::State_Sunken));
+    }
+    return isEnabled(part) || has(part, QStyle::State_On) || !has(part, QStyle::State_AutoRaise);
+}
+
 bool showsMenuArrow(const QStyleOptionToolButton &option, const QWidget *widget)
 {
     return option.features.testFlag(QStyleOptionToolButton::HasMenu) &&
@@ -231,6 +243,11 @@ bool drawToolButton(const PaintRequest &request)
     }
     proxy.drawControl(QStyle::CE_ToolButtonLabel, &face, request.painter, request.widget);
     return true;
+}
+
+bool drawPanel(const PaintRequest &request)
+{
+    return !hasFace(*request.option, request.widget) || Buttons::drawPanel(request);
 }
 
 bool drawLabel(const PaintRequest &request)

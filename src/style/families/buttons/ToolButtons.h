@@ -16,6 +16,8 @@ void drawArrow(const QStyle &style, const QStyleOptionToolButton &option, const 
                QPainter &painter, const QWidget *widget);
 
 bool drawToolButton(const PaintRequest &request);
+/// Draws the face of a tool button or of one of its parts.
+bool drawPanel(const PaintRequest &request);
 bool drawLabel(const PaintRequest &request);
 
 } // namespace TARN::ToolButtons

@@ -7,6 +7,7 @@
 #include "style/brushes/ButtonBrushChoice.h"
 #include "style/brushes/KeptBrushes.h"
 #include "style/drawing/Icons.h"
+#include "style/drawing/Lines.h"
 #include "style/drawing/Shapes.h"
 #include "style/families/tabs/TabSides.h"
 
@@ -239,6 +240,17 @@ bool drawTabShape(const PaintRequest &request)
     if (isCurrentTabHighlighted(request.widget)) {
         drawHighlight(*request.painter, rect, *tab, radius);
     }
+    return true;
+}
+
+bool drawTear(const PaintRequest &request)
+{
+    const QStyleOption &option = *request.option;
+    const bool enabled = isEnabled(option);
+    const bool isUpright = option.rect.height() > option.rect.width();
+    request.painter->fillRect(option.rect, themeBrush(BrushName::TabBackgroundBrush, enabled));
+    drawDashes(*request.painter, option.rect, isUpright ? Qt::Vertical : Qt::Horizontal,
+               themeBrush(BrushName::ForegroundDisabledBrush, enabled));
     return true;
 }
 
