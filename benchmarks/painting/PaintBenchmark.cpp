@@ -65,7 +65,7 @@ private:
 
     void startRound()
     {
-        for (const QString &style : {StyleNames::fusion, StyleNames::theme}) {
+        for (const QString &style : {StyleNames::fusion, StyleNames::theme, StyleNames::complete}) {
             if (!m_plan.styles.contains(style)) {
                 continue;
             }
@@ -116,14 +116,18 @@ int report(const Measurements &measurements, const PaintPlan &plan)
     std::copy_if(plan.styles.cbegin() + 1, plan.styles.cend(), std::back_inserter(styles),
                  [&](const QString &style) { return measurements.has(style); });
     printTable(measurements, styles);
-    if (!plan.styles.contains(StyleNames::theme)) {
-        return LimitsKept;
+    bool allKept = true;
+    for (const QString &style : judgedStyles()) {
+        if (!plan.styles.contains(style)) {
+            continue;
+        }
+        if (!measurements.has(style)) {
+            return NotMeasured;
+        }
+        allKept = printLimits(style, judgeCases(measurements, style),
+                              judgeWhole(measurements, style, plan.isWhole)) &&
+                  allKept;
     }
-    if (!measurements.has(StyleNames::theme)) {
-        return NotMeasured;
-    }
-    const bool allKept =
-        printLimits(judgeCases(measurements), judgeWhole(measurements, plan.isWhole));
     return allKept ? LimitsKept : LimitsNotKept;
 }
 

@@ -18,7 +18,8 @@ std::vector<PaintCase> allCases()
             for (const WidgetState &state : row.states) {
                 const QString name = QStringLiteral("%1: %2").arg(QLatin1String(row.widget),
                                                                   QLatin1String(state.name));
-                cases.push_back({name, row.make, state, row.highestRatio});
+                cases.push_back(
+                    {name, row.make, state, row.highestRatio, row.highestCompleteRatio});
             }
         }
     }

@@ -18,6 +18,8 @@ struct PaintCase
     WidgetState state;
     /// How many times what it costs under "fusion" it may cost under the theme.
     double highestRatio;
+    /// The same in the complete mode.
+    double highestCompleteRatio;
 };
 
 const std::vector<PaintCase> &paintCases();

@@ -4,7 +4,7 @@
 
 #include <vector>
 
-/// What something may cost under the theme, and what it does cost.
+/// What something may cost under a style of the library, and what it does cost.
 struct Judgement
 {
     QString text;
@@ -14,9 +14,13 @@ struct Judgement
     bool isMet() const { return value <= highest; }
 };
 
-/// Judges the single cases, as far as they were measured.
-std::vector<Judgement> judgeCases(const Measurements &measurements);
+/// Returns the styles that have limits: those of the library.
+const QStringList &judgedStyles();
+
+/// Judges the single cases under one of these styles, as far as they were measured.
+std::vector<Judgement> judgeCases(const Measurements &measurements, const QString &style);
 
 /// Judges everything else, as far as it was measured. \a allCases tells whether the mean is one of
 /// all cases, which alone is judged.
-std::vector<Judgement> judgeWhole(const Measurements &measurements, bool allCases);
+std::vector<Judgement> judgeWhole(const Measurements &measurements, const QString &style,
+                                  bool allCases);

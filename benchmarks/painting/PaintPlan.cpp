@@ -16,13 +16,14 @@ constexpr int QuickRoundCount = 5;
 constexpr int StartCount = 21;
 constexpr int QuickStartCount = 11;
 
-const QCommandLineOption quickOption(QStringLiteral("quick"),
-                                     QStringLiteral("Fewer rounds, only fusion and the theme."));
 const QCommandLineOption
-    stylesOption(QStringLiteral("styles"),
-                 QStringLiteral("What to compare with fusion: theme, stylesheet, nothing, keys of "
-                                "style plugins (default: all of these that are installed)."),
-                 QStringLiteral("A,B,..."));
+    quickOption(QStringLiteral("quick"),
+                QStringLiteral("Fewer rounds, only fusion and the theme in both modes."));
+const QCommandLineOption stylesOption(
+    QStringLiteral("styles"),
+    QStringLiteral("What to compare with fusion: theme, complete, stylesheet, nothing, keys of "
+                   "style plugins (default: all of these that are installed)."),
+    QStringLiteral("A,B,..."));
 const QCommandLineOption casesOption(QStringLiteral("cases"),
                                      QStringLiteral("Only the cases whose name contains TEXT."),
                                      QStringLiteral("TEXT"));
@@ -33,7 +34,7 @@ const QCommandLineOption
 
 QStringList allStyles()
 {
-    return QStringList{StyleNames::theme} + installedStyles() +
+    return QStringList{StyleNames::theme, StyleNames::complete} + installedStyles() +
            QStringList{StyleNames::styleSheet, StyleNames::nothing};
 }
 
@@ -43,7 +44,7 @@ QStringList plannedStyles(const QCommandLineParser &parser)
     if (parser.isSet(stylesOption)) {
         styles = parser.value(stylesOption).split(QLatin1Char(','), Qt::SkipEmptyParts);
     } else if (parser.isSet(quickOption)) {
-        styles = QStringList{StyleNames::theme};
+        styles = QStringList{StyleNames::theme, StyleNames::complete};
     } else {
         styles = allStyles();
     }

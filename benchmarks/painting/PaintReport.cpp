@@ -93,8 +93,10 @@ void printTable(const Measurements &measurements, const QStringList &styles)
     std::printf("\n");
 }
 
-bool printLimits(const std::vector<Judgement> &cases, const std::vector<Judgement> &whole)
+bool printLimits(const QString &style, const std::vector<Judgement> &cases,
+                 const std::vector<Judgement> &whole)
 {
+    std::printf("%s\n", qPrintable(style));
     std::for_each(whole.cbegin(), whole.cend(), printJudgement);
     for (const Judgement &judgement : cases) {
         if (!judgement.isMet()) {

@@ -44,6 +44,12 @@ public:
     }
 };
 
+/// Has themes that are applied from now on bring the complete mode.
+void chooseCompleteMode()
+{
+    qApp->setProperty("appCompleteTheming", true);
+}
+
 /// Returns whether the theme is there: one that is not applies nothing.
 bool applyTheme()
 {
@@ -123,7 +129,8 @@ Look themeLook()
 
 bool bringsThemeLook(const QString &styleName)
 {
-    return styleName == StyleNames::theme || styleName == StyleNames::nothing;
+    return styleName == StyleNames::theme || styleName == StyleNames::complete ||
+           styleName == StyleNames::nothing;
 }
 
 void registerThemeFonts()
@@ -138,6 +145,10 @@ void registerThemeFonts()
 bool useStyle(const QString &styleName, const Look &look)
 {
     if (styleName == StyleNames::theme) {
+        return applyTheme();
+    }
+    if (styleName == StyleNames::complete) {
+        chooseCompleteMode();
         return applyTheme();
     }
     if (styleName == StyleNames::nothing) {

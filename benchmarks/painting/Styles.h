@@ -10,6 +10,8 @@ namespace StyleNames {
 inline const QString fusion = QStringLiteral("fusion");
 /// The library's style, as it is used: with everything that applying a theme brings.
 inline const QString theme = QStringLiteral("theme");
+/// The same in the complete mode, which does without the stylesheet.
+inline const QString complete = QStringLiteral("complete");
 /// "fusion" under a dark stylesheet, as applications that go without a style have one.
 inline const QString styleSheet = QStringLiteral("stylesheet");
 /// A style that paints nothing, under the theme's stylesheet: what can not be saved.
