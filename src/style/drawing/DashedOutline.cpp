@@ -1,9 +1,10 @@
 #include "style/drawing/DashedOutline.h"
 
+#include "style/drawing/Pictures.h"
+
 #include <QtCore/QCache>
 #include <QtCore/QVector>
 #include <QtGui/QImage>
-#include <QtGui/QPaintEngine>
 #include <QtGui/QPainter>
 
 #include <cmath>
@@ -133,23 +134,14 @@ OutlinePictures keptPictures(const OutlineKey &key)
     return pictures;
 }
 
-bool paintsPlainColor(const QBrush &brush, const QPainter &painter)
-{
-    const QPaintEngine *engine = painter.paintEngine();
-    return engine && engine->type() == QPaintEngine::Raster &&
-           painter.compositionMode() == QPainter::CompositionMode_SourceOver &&
-           brush.style() == Qt::SolidPattern && brush.color().spec() != QColor::ExtendedRgb;
-}
-
 /// Tells whether the outline has pictures: wherever it lies, its dashes fall onto the same places.
-bool hasPictures(const QRect &rect, const QTransform &transform)
+bool hasPictures(const QRect &rect, const QTransform &transform, qreal scale)
 {
-    if (transform.type() > QTransform::TxScale || transform.m11() <= 0 ||
-        transform.m11() != transform.m22() || rect.isEmpty()) {
+    if (scale <= 0 || rect.isEmpty()) {
         return false;
     }
     const QPointF corner = transform.map(QPointF(rect.topLeft()));
-    const QSizeF size = QSizeF(rect.size()) * transform.m11();
+    const QSizeF size = QSizeF(rect.size()) * scale;
     return corner.x() == std::floor(corner.x()) && corner.y() == std::floor(corner.y()) &&
            size.width() + size.height() <= largestExtent;
 }
@@ -158,12 +150,11 @@ bool hasPictures(const QRect &rect, const QTransform &transform)
 
 void drawDashedOutline(const QRect &rect, const QBrush &brush, QPainter &painter)
 {
-    const QTransform &transform = painter.deviceTransform();
-    if (!paintsPlainColor(brush, painter) || !hasPictures(rect, transform)) {
+    const qreal scale = pictureScale(painter);
+    if (!isPlainColor(brush) || !hasPictures(rect, painter.deviceTransform(), scale)) {
         stroke(rect, brush, painter);
         return;
     }
-    const qreal scale = transform.m11();
     // The pictures are copied pixel by pixel.
     painter.setRenderHint(QPainter::Antialiasing, false);
     keptPictures({brush.color().rgba(), rect.size(), scale})

@@ -4,12 +4,17 @@
 #include "resources/ThemeColorHelper.h"
 #include "resources/ThemeResources.h"
 #include "resources/kept/KeptValue.h"
+#include "resources/kept/SlotCache.h"
+#include "style/drawing/Pictures.h"
 
+#include <QtCore/QtMath>
+#include <QtGui/QImage>
 #include <QtGui/QPainter>
 #include <QtGui/QPixmap>
 #include <QtWidgets/QStyle>
 #include <QtWidgets/QWidget>
 
+#include <functional>
 #include <unordered_map>
 
 namespace TARN {
@@ -45,6 +50,39 @@ void paintMoved(QPainter &painter, const QPointF &offset, Paint paint)
     painter.setWorldMatrixEnabled(wasTransformed);
 }
 
+/// An icon in one colour.
+struct PictureKey
+{
+    const char *name;
+    QRgb color;
+    int extent;
+    qreal scale;
+
+    bool operator==(const PictureKey &other) const
+    {
+        return name == other.name && color == other.color && extent == other.extent &&
+               scale == other.scale;
+    }
+    std::size_t hash() const
+    {
+        return mixedHash({std::hash<const char *>()(name), color, std::size_t(extent)});
+    }
+};
+
+QImage makePicture(const PictureKey &key)
+{
+    const int pixels = qCeil(key.extent * key.scale);
+    QImage picture(pixels, pixels, QImage::Format_ARGB32_Premultiplied);
+    picture.fill(Qt::transparent);
+    picture.setDevicePixelRatio(key.scale);
+    QPainter painter(&picture);
+    drawTintedIcon(painter, QRect(0, 0, key.extent, key.extent), keptIcon(key.name),
+                   QColor::fromRgba(key.color));
+    painter.end();
+    picture.setDevicePixelRatio(1);
+    return picture;
+}
+
 } // namespace
 
 const QIcon &keptIcon(const char *name)
@@ -68,6 +106,18 @@ void drawIcon(QPainter &painter, const QRect &rect, const QIcon &icon, QIcon::Mo
 void drawTintedIcon(QPainter &painter, const QRect &rect, const QIcon &icon, const QBrush &brush)
 {
     drawIcon(painter, rect, ThemeColorHelper::getModifiedIconWithForegroundBrush(icon, brush));
+}
+
+void drawKeptIcon(QPainter &painter, const QRect &rect, const char *name, const QBrush &brush)
+{
+    const qreal scale = pictureScale(painter);
+    if (scale <= 0 || !isPlainColor(brush)) {
+        drawTintedIcon(painter, rect, keptIcon(name), brush);
+        return;
+    }
+    static SlotCache<PictureKey, QImage, 31, ThemeGeneration> pictures(makePicture);
+    copyPicture(painter, rect.topLeft(),
+                pictures.value({name, brush.color().rgba(), rect.width(), scale}), scale);
 }
 
 QIcon iconInBrush(const QIcon &icon, const QBrush &brush)

@@ -22,8 +22,12 @@ void drawIcon(QPainter &painter, const QRect &rect, const QIcon &icon,
 /// Draws \a icon as above, its foreground painted with \a brush.
 void drawTintedIcon(QPainter &painter, const QRect &rect, const QIcon &icon, const QBrush &brush);
 
-/// Returns \a icon painted with \a brush, be it drawn for dark grounds, as the library's icons are, or
-/// for light ones, as those are that light themes bring.
+/// Draws the theme's icon \a name, a string literal, as above in the square \a rect. It is copied
+/// from a picture that is kept: for what is drawn so often that its look-up counts.
+void drawKeptIcon(QPainter &painter, const QRect &rect, const char *name, const QBrush &brush);
+
+/// Returns \a icon painted with \a brush, be it drawn for dark grounds, as the library's icons are,
+/// or for light ones, as those are that light themes bring.
 QIcon iconInBrush(const QIcon &icon, const QBrush &brush);
 
 /// Returns the picture of \a icon at \a size for the screen of \a widget, which may be null.

@@ -15,6 +15,9 @@ namespace TARN::SpinBoxes {
 
 namespace {
 
+/// The icon of an arrow that has enough room.
+constexpr int arrowExtent = 16;
+
 // The buttons stand in a column of 14 pixels, 2 away from the edge.
 constexpr int buttonsLeft = 15;
 constexpr int buttonsRight = 2;
@@ -141,31 +144,22 @@ QRect signRect(const QRect &face)
     return QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, {extent, extent}, face);
 }
 
-using ArrowRect = QRect (*)(const StepButton &button, const QRect &face);
+/// Who draws the arrows of the buttons.
+enum class Arrows { OfBaseStyle, Ours };
 
-/// Returns where the base style's arrow is drawn, in the middle of the face: it draws arrows that
+/// Returns where the arrow is drawn, in the middle of the face: the base style draws arrows that
 /// point down one pixel lower.
-QRect baseArrowRect(const StepButton &button, const QRect &face)
+QRect arrowRect(const StepButton &button, const QRect &face, Arrows arrows)
 {
-    return button.arrow == QStyle::PE_IndicatorSpinDown ? face.translated(0, -1) : face;
+    const bool isLower =
+        arrows == Arrows::OfBaseStyle && button.arrow == QStyle::PE_IndicatorSpinDown;
+    return isLower ? face.translated(0, -1) : face;
 }
 
-QRect ownArrowRect(const StepButton & /*button*/, const QRect &face)
-{
-    return face;
-}
-
+/// Draws the face of a button, which has one while it is used, and its sign or its arrow.
 void drawStepButton(const PaintRequest &request, const QStyleOptionSpinBox &option,
-                    const StepButton &button, ArrowRect arrowRect)
+                    const StepButton &button, const QRect &face, Arrows arrows)
 {
-    const QRect part = request.proxy().subControlRect(QStyle::CC_SpinBox, &option,
-                                                      button.subControl, request.widget);
-    const QRect face = faceRect(option, part);
-    if (face.isEmpty()) {
-        return;
-    }
-    request.painter->save();
-    request.painter->setClipRect(part, Qt::IntersectClip);
     QStyleOption indicator(option);
     indicator.state = buttonState(option, button);
     const Interaction interaction = interactionOf(indicator);
@@ -177,14 +171,35 @@ void drawStepButton(const PaintRequest &request, const QStyleOptionSpinBox &opti
     indicator.palette = paletteWith(indicator.palette, QPalette::ButtonText,
                                     buttonBrush(interaction, BrushField::Foreground, enabled));
     const bool hasSign = option.buttonSymbols == QAbstractSpinBox::PlusMinus;
-    indicator.rect = hasSign ? signRect(face) : arrowRect(button, face);
-    // Arrows have a straight edge on the pixels, and two whose steps are even.
-    request.painter->setRenderHint(QPainter::Antialiasing, false);
+    indicator.rect = hasSign ? signRect(face) : arrowRect(button, face, arrows);
+    if (arrows == Arrows::OfBaseStyle) {
+        // They have a straight edge on the pixels, and two whose steps are even.
+        request.painter->setRenderHint(QPainter::Antialiasing, false);
+    }
     request.draw(hasSign ? button.sign : button.arrow, indicator);
+}
+
+/// Draws a button, and nothing beside it: who else draws the arrow may reach over its edge.
+void drawClippedStepButton(const PaintRequest &request, const QStyleOptionSpinBox &option,
+                           const StepButton &button, Arrows arrows)
+{
+    const QRect part = request.proxy().subControlRect(QStyle::CC_SpinBox, &option,
+                                                      button.subControl, request.widget);
+    const QRect face = faceRect(option, part);
+    if (face.isEmpty()) {
+        return;
+    }
+    if (arrows == Arrows::Ours && &request.proxy() == &request.style) {
+        drawStepButton(request, option, button, face, arrows);
+        return;
+    }
+    request.painter->save();
+    request.painter->setClipRect(part, Qt::IntersectClip);
+    drawStepButton(request, option, button, face, arrows);
     request.painter->restore();
 }
 
-bool paint(const PaintRequest &request, ArrowRect arrowRect)
+bool paint(const PaintRequest &request, Arrows arrows)
 {
     const auto *option = qstyleoption_cast<const QStyleOptionSpinBox *>(request.option);
     if (!option) {
@@ -194,7 +209,7 @@ bool paint(const PaintRequest &request, ArrowRect arrowRect)
     for (const StepButton &button : stepButtons) {
         if (option->subControls.testFlag(button.subControl) &&
             option->buttonSymbols != QAbstractSpinBox::NoButtons) {
-            drawStepButton(request, *option, button, arrowRect);
+            drawClippedStepButton(request, *option, button, arrows);
         }
     }
     return true;
@@ -204,13 +219,12 @@ bool paint(const PaintRequest &request, ArrowRect arrowRect)
 bool drawArrow(const PaintRequest &request, const char *icon)
 {
     const QRect &room = request.option->rect;
-    const int extent =
-        qMin(request.metric(QStyle::PM_SmallIconSize), 2 * qMin(room.width(), room.height()));
+    const int extent = qMin(arrowExtent, 2 * qMin(room.width(), room.height()));
     if (extent > 0) {
-        drawTintedIcon(
+        drawKeptIcon(
             *request.painter,
             QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, QSize(extent, extent), room),
-            keptIcon(icon), request.option->palette.buttonText());
+            icon, request.option->palette.buttonText());
     }
     return true;
 }
@@ -320,12 +334,12 @@ bool drawDown(const PaintRequest &request)
 
 bool drawSpinBox(const PaintRequest &request)
 {
-    return paint(request, baseArrowRect);
+    return paint(request, Arrows::OfBaseStyle);
 }
 
 bool drawSpinBoxWithOwnArrows(const PaintRequest &request)
 {
-    return paint(request, ownArrowRect);
+    return paint(request, Arrows::Ours);
 }
 
 } // namespace TARN::SpinBoxes
