@@ -118,9 +118,9 @@ private Q_SLOTS:
         m_repository.makeFolder(text("Test/Images/Test/scalable"));
         QVERIFY(QFile::copy(text(MOX_TEST_RCC),
                             directory + text("/Images/Test/scalable/pictures.rcc")));
-        QVERIFY(!QFile::exists(text(":/test_pictures/dot.svg")));
+        QVERIFY(!QFile::exists(text(":/Icons/test_pictures/dot.svg")));
         BaseTheme(directory).customize(qApp);
-        QVERIFY(QFile::exists(text(":/test_pictures/dot.svg")));
+        QVERIFY(QFile::exists(text(":/Icons/test_pictures/dot.svg")));
     }
 
     void resourceFilesInFoldersBelowAreNot()
@@ -130,7 +130,7 @@ private Q_SLOTS:
         QVERIFY(QFile::copy(text(MOX_TEST_RCC),
                             directory + text("/Images/Test/scalable/below/pictures.rcc")));
         BaseTheme(directory).customize(qApp);
-        QVERIFY(!QFile::exists(text(":/test_pictures/dot.svg")));
+        QVERIFY(!QFile::exists(text(":/Icons/test_pictures/dot.svg")));
     }
 
     void resourceSuffixIsCaseSensitive()
@@ -140,7 +140,7 @@ private Q_SLOTS:
         QVERIFY(QFile::copy(text(MOX_TEST_RCC),
                             directory + text("/Images/Test/scalable/pictures.RCC")));
         BaseTheme(directory).customize(qApp);
-        QVERIFY(!QFile::exists(text(":/test_pictures/dot.svg")));
+        QVERIFY(!QFile::exists(text(":/Icons/test_pictures/dot.svg")));
     }
 };
 

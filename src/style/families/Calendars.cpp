@@ -46,10 +46,10 @@ void keepSelection(Polishing &polishing, const QPalette &selection)
 
 } // namespace
 
-bool isNavigationBar(const QWidget &widget)
+bool isNavigationBar(const QObject *widget)
 {
-    return qobject_cast<const QCalendarWidget *>(widget.parentWidget()) &&
-           widget.objectName() == QLatin1String("qt_calendar_navigationbar");
+    return qobject_cast<const QCalendarWidget *>(widget->parent()) &&
+           widget->objectName() == QLatin1String("qt_calendar_navigationbar");
 }
 
 void polishNavigationBar(Polishing &polishing)

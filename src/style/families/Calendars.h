@@ -10,7 +10,7 @@ class Polishing;
 namespace TARN::Calendars {
 
 /// Tells whether \a widget is the bar above the days of a calendar.
-bool isNavigationBar(const QWidget &widget);
+bool isNavigationBar(const QObject *widget);
 
 /// Has the bar look like the window that it stands on, where it would be a selection.
 void polishNavigationBar(Polishing &polishing);

@@ -236,7 +236,7 @@ private Q_SLOTS:
         QDir::addSearchPath(text("icons"), text("/own/late"));
         QVERIFY(!QFontDatabase::applicationFontFamilies(0).isEmpty());
         apply(text("Strange"));
-        QVERIFY(QFile::exists(text(":/test_pictures/dot.svg")));
+        QVERIFY(QFile::exists(text(":/Icons/test_pictures/dot.svg")));
         QCOMPARE(QDir::searchPaths(text("icons")),
                  QStringList({text("/own/icons"), text("/own/late"),
                               directory(text("Strange")) + text("/Images/Strange/scalable"),
@@ -247,7 +247,7 @@ private Q_SLOTS:
         QCOMPARE(QIcon::fallbackSearchPaths().count(text(":/icons")), 1);
         QCOMPARE(QFontDatabase::applicationFontFamilies(0), QStringList());
         apply(text("Bare"));
-        QVERIFY(!QFile::exists(text(":/test_pictures/dot.svg")));
+        QVERIFY(!QFile::exists(text(":/Icons/test_pictures/dot.svg")));
     }
 
     void optingInLaterTakesEverythingBack()

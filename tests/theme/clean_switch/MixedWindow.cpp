@@ -79,7 +79,7 @@ protected:
                              .arg(ThemeResources::getCornerRadius(text("BaseSize")))
                              .arg(ThemeResources::getOpacity(text("RubberBandOpacity"))));
         QIcon::fromTheme(text("action.close")).paint(&painter, x + 60, 2, 20, 20);
-        QPixmap picture(text(":/test_pictures/dot.svg"));
+        QPixmap picture(text(":/Icons/test_pictures/dot.svg"));
         painter.drawPixmap(x + 90, 4, picture);
     }
 };
