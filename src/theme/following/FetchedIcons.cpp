@@ -1,6 +1,7 @@
 #include "theme/following/FetchedIcons.h"
 
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QCalendarWidget>
 #include <QtWidgets/QDockWidget>
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QTabBar>
@@ -18,11 +19,11 @@ void fetchIcons()
     }
 }
 
-void fetchExtensionIcons()
+void fetchIconsOfTurned()
 {
     const QWidgetList widgets = QApplication::allWidgets();
     for (QWidget *widget : widgets) {
-        if (widget->inherits("QToolBarExtension")) {
+        if (widget->inherits("QToolBarExtension") || qobject_cast<QCalendarWidget *>(widget)) {
             QEvent directionChange(QEvent::LayoutDirectionChange);
             QCoreApplication::sendEvent(widget, &directionChange);
         }

@@ -18,7 +18,7 @@ void Followers::follow(bool styleIsNew) const
     m_colors.follow();
     m_sceneTexts.follow();
     fitCloseButtons();
-    fetchExtensionIcons();
+    fetchIconsOfTurned();
     if (!styleIsNew) {
         fetchIcons();
     }
