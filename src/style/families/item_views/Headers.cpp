@@ -25,7 +25,7 @@ constexpr int arrowDistance = 13;
 /// How far above the middle of its section the arrow is, where its mark seems to be beside the
 /// text.
 constexpr int arrowRise = 2;
-constexpr int arrowGap = 2;
+constexpr int arrowGap = 4;
 
 /// Returns the room between the edge of a section and its text: as for an application's texts,
 /// whatever font a header has.
