@@ -1,8 +1,13 @@
 #include "gallery/modes/PermittedDifferences.h"
 
+#include "catalogue/Elements.h"
+
 #include <QtCore/QString>
+#include <QtWidgets/QAbstractButton>
+#include <QtWidgets/QAbstractSpinBox>
 #include <QtWidgets/QCalendarWidget>
 #include <QtWidgets/QColumnView>
+#include <QtWidgets/QDial>
 #include <QtWidgets/QFocusFrame>
 #include <QtWidgets/QGraphicsView>
 #include <QtWidgets/QGroupBox>
@@ -42,6 +47,29 @@ QRegion those(const QWidget &window, bool (*isMeant)(const Widget &widget))
         if (isMeant(*widget)) {
             region += inWindow(window, *widget, widget->rect());
         }
+    }
+    return region;
+}
+
+QRegion toolBoxTabs(const QWidget &window)
+{
+    return those<QAbstractButton>(
+        window, [](const QAbstractButton &button) { return button.inherits("QToolBoxButton"); });
+}
+
+QRegion dockButtons(const QWidget &window)
+{
+    return those<QAbstractButton>(window, [](const QAbstractButton &button) {
+        return button.inherits("QDockWidgetTitleButton");
+    });
+}
+
+QRegion spinArrows(const QWidget &window)
+{
+    constexpr int extent = 20;
+    QRegion region;
+    for (const auto *box : window.findChildren<const QAbstractSpinBox *>()) {
+        region += inWindow(window, *box, QRect(box->width() - extent, 0, extent, box->height()));
     }
     return region;
 }
@@ -112,6 +140,48 @@ QRegion cells(const QWidget &window, const char *const (&names)[Size])
     return region;
 }
 
+/// Returns the cells of a page of states that show one of \a elements, by the tips that name them.
+QRegion cellsOf(const QWidget &window, const QStringList &elements)
+{
+    QRegion region;
+    for (const QWidget *cell : window.findChildren<const QWidget *>()) {
+        if (elements.contains(cell->toolTip().section(QLatin1Char('\n'), 0, 0))) {
+            region += inWindow(window, *cell, cell->rect());
+        }
+    }
+    return region;
+}
+
+/// Returns the cells of what the style paints in the complete mode only.
+QRegion ownElements(const QWidget &window)
+{
+    QStringList names;
+    for (const auto &rows : {TARN::Catalogue::primitives(), TARN::Catalogue::controls(),
+                             TARN::Catalogue::complexControls()}) {
+        for (const TARN::StyleElement &row : rows) {
+            if (row.isPaintedInCompleteMode && !row.isPainted) {
+                names.append(QLatin1String(row.name));
+            }
+        }
+    }
+    return cellsOf(window, names);
+}
+
+QRegion spinBoxCells(const QWidget &window)
+{
+    return cellsOf(window, {QStringLiteral("CC_SpinBox")});
+}
+
+QRegion titleBarCells(const QWidget &window)
+{
+    return cellsOf(window, {QStringLiteral("CC_TitleBar")});
+}
+
+QRegion toolBoxCells(const QWidget &window)
+{
+    return cellsOf(window, {QStringLiteral("CE_ToolBoxTab"), QStringLiteral("CE_ToolBoxTabShape")});
+}
+
 QRegion changedItemStates(const QWidget &window)
 {
     static const char *const names[] = {
@@ -132,6 +202,8 @@ QRegion progressChunks(const QWidget &window)
     return cells(window, names);
 }
 
+constexpr char everyPage[] = "";
+
 struct Permission
 {
     const char *page;
@@ -140,6 +212,15 @@ struct Permission
 };
 
 const Permission permissions[] = {
+    {everyPage, "What is left to the base style by default has the theme's look.", ownElements},
+    {everyPage, "Arrows of spin boxes are those of all widgets.", spinArrows},
+    {"spin-box-states", "So they are.", spinBoxCells},
+    {"dials-and-scroll-bars", "Dials look as sliders do.", allOf<QDial>},
+    {"group-boxes", "The tab of a tool box shows that it is open.", toolBoxTabs},
+    {"tool-box-states", "So it does, and that the mouse or the keyboard is there.", toolBoxCells},
+    {"window-states", "The buttons of title bars have icons of their own, in the colour of texts.",
+     titleBarCells},
+    {"dock-windows", "The button that has a dock float looks as that of windows.", dockButtons},
     {"headers", "The arrow of a sorted section keeps clear of its text.", sortedSections},
     {"tables", "The arrow of a sorted section keeps clear of its text.", sortedSections},
     {"file-dialog", "The arrow of a sorted section keeps clear of its text.", sortedSections},
@@ -183,7 +264,7 @@ QRegion permittedDifferences(const QString &id, const QWidget &window)
 {
     QRegion region;
     for (const Permission &permission : permissions) {
-        if (id == QLatin1String(permission.page)) {
+        if (permission.page == everyPage || id == QLatin1String(permission.page)) {
             region += permission.where(window);
         }
     }
