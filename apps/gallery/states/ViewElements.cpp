@@ -42,6 +42,11 @@ OptionMaker item(const std::function<void(Item &)> &prepare = {})
     };
 }
 
+void makeGap(Item &option)
+{
+    option.rect = QRect(option.rect.left(), option.rect.center().y(), option.rect.width(), 0);
+}
+
 void makeAlternate(Item &option)
 {
     option.features |= Item::Alternate;
@@ -81,20 +86,24 @@ QVector<ElementSample> viewParts()
     const auto column = making<QColumnView>();
     const auto tree = making<QTreeView>();
     const ElementStates states = combined(passiveStates(), {ElementState(), Condition::Selected});
+    const ElementStates branchStates =
+        combined(hoverableStates(), {ElementState(), Condition::Selected});
     return {
         {QStyle::PE_IndicatorColumnViewArrow, "Arrow of a column view", states, column,
          item<QColumnView>(), squareSize},
         {QStyle::CE_ColumnViewGrip, "Grip of a column view", passiveStates(), column, plain(),
          squareSize},
-        {QStyle::PE_IndicatorBranch, "Closed branch", hoverableStates(), tree,
+        {QStyle::PE_IndicatorBranch, "Closed branch", branchStates, tree,
          branch(QStyle::State_Item | QStyle::State_Children), squareSize},
-        {QStyle::PE_IndicatorBranch, "Open branch", hoverableStates(), tree,
+        {QStyle::PE_IndicatorBranch, "Open branch", branchStates, tree,
          branch(QStyle::State_Item | QStyle::State_Children | QStyle::State_Open), squareSize},
         {QStyle::PE_IndicatorItemViewItemCheck, "Check box of an item",
          combined(hoverableStates(), {ElementState(), Condition::Checked}), tree, item<QTreeView>(),
          squareSize},
         {QStyle::PE_IndicatorItemViewItemDrop, "Drop place", restingStates(), tree,
          item<QTreeView>()},
+        {QStyle::PE_IndicatorItemViewItemDrop, "Drop place between items", restingStates(), tree,
+         item<QTreeView>(makeGap)},
     };
 }
 
@@ -155,6 +164,8 @@ ElementFamily headerFamily()
         {
             {QStyle::CE_Header, "Header", buttonStates(), lying, plainHeader},
             {QStyle::CE_Header, "Sorted header", buttonStates(), lying, sorted},
+            {QStyle::CE_Header, "Header sorted the other way", passiveStates(), lying,
+             headerOption(Header::SortUp, QStyle::State_Horizontal)},
             {QStyle::CE_Header, "Vertical header", buttonStates(), standing,
              headerOption(Header::None, QStyle::State_None)},
             {QStyle::CE_HeaderSection, "Section", buttonStates(), lying, plainHeader},
