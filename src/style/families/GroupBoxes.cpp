@@ -18,6 +18,8 @@ namespace {
 
 /// How far the frame stays away from the title, which stands on its upper line.
 constexpr int titleMargin = 3;
+/// How far a title begins from the edge of the group box, and how far it ends at least.
+constexpr int titleInset = 8;
 
 bool isFlat(const QStyleOption &option)
 {
@@ -167,7 +169,13 @@ bool drawFrame(const PaintRequest &request)
 QRect boundedSubControlRect(const SubControlRequest &request)
 {
     const QRect rect = subControlRect(request);
-    return request.subControl == QStyle::SC_GroupBoxLabel ? rect & request.option->rect : rect;
+    const auto *option = qstyleoption_cast<const QStyleOptionGroupBox *>(request.option);
+    if (!option || request.subControl != QStyle::SC_GroupBoxLabel) {
+        return rect;
+    }
+    const bool isFlat = option->features.testFlag(QStyleOptionFrame::Flat);
+    const int margin = isFlat ? 0 : titleInset;
+    return rect & option->rect.adjusted(margin, 0, -margin, 0);
 }
 
 bool drawGroupBox(const PaintRequest &request)
