@@ -83,7 +83,17 @@ QVector<ElementSample> menuParts()
          QSize(20, 20)},
         {QStyle::CE_MenuScroller, "Scroller", passiveStates(), menu, entryOf(MenuItem::Scroller),
          QSize(menuWidth, 16)},
-        {QStyle::CE_MenuTearoff, "Tear-off line", passiveStates(), menu, entryOf(MenuItem::TearOff),
+        {QStyle::CE_MenuScroller, "Scroller, down", passiveStates(), menu,
+         entry([](MenuItem &option) {
+             option.menuItemType = MenuItem::Scroller;
+             option.state |= QStyle::State_DownArrow;
+         }),
+         QSize(menuWidth, 16)},
+        {QStyle::CE_MenuTearoff,
+         "Tear-off line",
+         {ElementState(), Condition::Highlighted, Condition::Disabled},
+         menu,
+         entryOf(MenuItem::TearOff),
          thin},
         {QStyle::CE_MenuVMargin, "Margin above", restingStates(), menu, entryOf(MenuItem::Margin),
          thin},

@@ -19,6 +19,7 @@ using ProgressBar = QStyleOptionProgressBar;
 
 constexpr QSize lyingSize(100, 24);
 constexpr QSize standingSize(24, 76);
+constexpr QSize dialSize(48, 48);
 constexpr QSize barSize(100, 16);
 constexpr QSize standingBarSize(16, 76);
 /// What the style makes of minimized ones.
@@ -51,6 +52,19 @@ OptionMaker sliderOption(QStyle::SubControl part)
 OptionMaker handled()
 {
     return sliderOption(QStyle::SC_SliderHandle);
+}
+
+WidgetMaker dial()
+{
+    return making<QDial>([](QDial &dial) { dial.setValue(value); });
+}
+
+OptionMaker bareDialOption()
+{
+    return describing<QDial, Slider>([](Slider &option) {
+        option.subControls = QStyle::SC_DialGroove | QStyle::SC_DialHandle;
+        option.activeSubControls = QStyle::SC_DialHandle;
+    });
 }
 
 template <typename Bar = QScrollBar>
@@ -129,9 +143,15 @@ ElementFamily sliderFamily()
                  standingSize},
                 {QStyle::CC_Slider, "Vertical with ticks", buttonStates(),
                  slider(Qt::Vertical, QSlider::TicksBothSides), handled(), QSize(34, 76)},
-                {QStyle::CC_Dial, "Dial", buttonStates(),
-                 making<QDial>([](QDial &dial) { dial.setValue(value); }),
-                 sliderOption<QDial>(QStyle::SC_DialHandle), QSize(48, 48)},
+                {QStyle::CC_Dial, "Dial", buttonStates(), dial(),
+                 sliderOption<QDial>(QStyle::SC_DialHandle), dialSize},
+                {QStyle::CC_Dial, "Dial, highlighted", buttonStates(),
+                 with("slider_highlighted", dial()), sliderOption<QDial>(QStyle::SC_DialHandle),
+                 dialSize},
+                {QStyle::CC_Dial, "Dial without notches", buttonStates(), dial(), bareDialOption(),
+                 dialSize},
+                {QStyle::CC_Dial, "Dial, all the way round", buttonStates(),
+                 with("wrapping", dial()), sliderOption<QDial>(QStyle::SC_DialHandle), dialSize},
             }};
 }
 

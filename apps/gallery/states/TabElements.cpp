@@ -142,8 +142,8 @@ ElementFamily toolBoxFamily()
             QLatin1String("Tool box states"),
             {
                 {QStyle::CE_ToolBoxTab, "Tab", states, box, toolBoxOption()},
-                {QStyle::CE_ToolBoxTabShape, "Shape", buttonStates(), box, toolBoxOption()},
-                {QStyle::CE_ToolBoxTabLabel, "Label", passiveStates(), box, toolBoxOption()},
+                {QStyle::CE_ToolBoxTabShape, "Shape", states, box, toolBoxOption()},
+                {QStyle::CE_ToolBoxTabLabel, "Label", buttonStates(), box, toolBoxOption()},
             }};
 }
 

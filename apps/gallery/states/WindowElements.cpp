@@ -27,10 +27,10 @@ OptionMaker oriented(QStyle::State state)
 }
 
 /// Returns the maker of the options of the title bar of a window in \a state, the mouse being over
-/// its close button.
-OptionMaker titleBarOption(Qt::WindowStates state)
+/// its close button. It has the usual buttons and \a furtherOnes.
+OptionMaker titleBarOption(Qt::WindowStates state, Qt::WindowFlags furtherOnes = {})
 {
-    return plain<TitleBar>([state](TitleBar &option) {
+    return plain<TitleBar>([state, furtherOnes](TitleBar &option) {
         option.text = sampleText;
         option.icon = symbol("action.save"_s);
         option.titleBarState = int(state);
@@ -38,7 +38,8 @@ OptionMaker titleBarOption(Qt::WindowStates state)
             option.titleBarState |= QStyle::State_Active;
         }
         option.titleBarFlags = Qt::SubWindow | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
-                               Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint;
+                               Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint |
+                               furtherOnes;
         option.subControls = QStyle::SC_All;
         option.activeSubControls = QStyle::SC_TitleBarCloseButton;
     });
@@ -101,6 +102,8 @@ ElementFamily windowFamily()
     const auto window = making<QMainWindow>();
     const auto dock = dockWidget();
     const auto subWindow = making<QMdiSubWindow>();
+    const Qt::WindowFlags helpAndShade =
+        Qt::WindowContextHelpButtonHint | Qt::WindowShadeButtonHint;
     return {
         QLatin1String("window-states"),
         QLatin1String("Window states"),
@@ -113,6 +116,10 @@ ElementFamily windowFamily()
              titleBarOption(Qt::WindowActive | Qt::WindowMaximized), titleBarSize},
             {QStyle::CC_TitleBar, "Title bar, minimised", hoverableStates(), subWindow,
              titleBarOption(Qt::WindowActive | Qt::WindowMinimized), titleBarSize},
+            {QStyle::CC_TitleBar, "Title bar with help and shade", hoverableStates(), subWindow,
+             titleBarOption(Qt::WindowActive, helpAndShade), titleBarSize},
+            {QStyle::CC_TitleBar, "Title bar with help, shaded", hoverableStates(), subWindow,
+             titleBarOption(Qt::WindowActive | Qt::WindowMinimized, helpAndShade), titleBarSize},
             {QStyle::CC_MdiControls, "Buttons of a maximised window", hoverableStates(), subWindow,
              mdiOption(), QSize(60, 20)},
             {QStyle::PE_FrameWindow, "Frame of a window", passiveStates(), subWindow,
