@@ -111,7 +111,9 @@ void drawTintedIcon(QPainter &painter, const QRect &rect, const QIcon &icon, con
 void drawKeptIcon(QPainter &painter, const QRect &rect, const char *name, const QBrush &brush)
 {
     const qreal scale = pictureScale(painter);
-    if (scale <= 0 || !isPlainColor(brush)) {
+    // An icon is as fine as its device is, whatever the painter magnifies.
+    const bool isMagnified = scale != painter.device()->devicePixelRatioF();
+    if (scale <= 0 || isMagnified || !isPlainColor(brush)) {
         drawTintedIcon(painter, rect, keptIcon(name), brush);
         return;
     }

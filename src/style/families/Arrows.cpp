@@ -57,7 +57,7 @@ bool drawArrow(const PaintRequest &request, const char *icon)
     if (extent > 0) {
         const QRect arrow =
             QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, QSize(extent, extent), room);
-        drawTintedIcon(*request.painter, arrow, keptIcon(icon), arrowBrush(request));
+        drawKeptIcon(*request.painter, arrow, icon, arrowBrush(request));
     }
     return true;
 }
