@@ -4,6 +4,7 @@
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QProgressBar>
 
+#include <support/TestedMode.h>
 #include <support/geometry/FusionReference.h>
 
 using TARN::BaseStyle;
@@ -14,6 +15,7 @@ class ProgressBarTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase() { enterTestedMode(); }
     void size();
     void sizeNeedsItsOption();
     void textReadsUpwards();

@@ -2,6 +2,7 @@
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QToolButton>
 
+#include <support/TestedMode.h>
 #include <support/Text.h>
 #include <support/geometry/FusionReference.h>
 
@@ -21,6 +22,7 @@ class ButtonSizeTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase() { enterTestedMode(); }
     void pushButton();
     void pushButtonIconSizeCanBeChanged();
     void toolButton_data();
