@@ -69,7 +69,28 @@ struct PictureKey
     }
 };
 
-QImage makePicture(const PictureKey &key)
+/// What is seen of an icon: the smaller the picture, the sooner it is copied.
+struct KeptPicture
+{
+    QPoint corner; ///< from that of the icon, in pixels
+    QImage picture;
+};
+
+/// Returns the smallest rectangle that holds all pixels of \a picture which are not transparent.
+QRect visibleRect(const QImage &picture)
+{
+    QRect rect;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            if (qAlpha(picture.pixel(x, y)) != 0) {
+                rect |= QRect(x, y, 1, 1);
+            }
+        }
+    }
+    return rect;
+}
+
+KeptPicture makePicture(const PictureKey &key)
 {
     const int pixels = qCeil(key.extent * key.scale);
     QImage picture(pixels, pixels, QImage::Format_ARGB32_Premultiplied);
@@ -80,7 +101,8 @@ QImage makePicture(const PictureKey &key)
                    QColor::fromRgba(key.color));
     painter.end();
     picture.setDevicePixelRatio(1);
-    return picture;
+    const QRect visible = visibleRect(picture);
+    return {visible.topLeft(), picture.copy(visible)};
 }
 
 } // namespace
@@ -117,9 +139,9 @@ void drawKeptIcon(QPainter &painter, const QRect &rect, const char *name, const 
         drawTintedIcon(painter, rect, keptIcon(name), brush);
         return;
     }
-    static SlotCache<PictureKey, QImage, 31, ThemeGeneration> pictures(makePicture);
-    copyPicture(painter, rect.topLeft(),
-                pictures.value({name, brush.color().rgba(), rect.width(), scale}), scale);
+    static SlotCache<PictureKey, KeptPicture, 31, ThemeGeneration> pictures(makePicture);
+    const KeptPicture &kept = pictures.value({name, brush.color().rgba(), rect.width(), scale});
+    copyPicture(painter, rect.topLeft(), kept.corner, kept.picture, scale);
 }
 
 QIcon iconInBrush(const QIcon &icon, const QBrush &brush)

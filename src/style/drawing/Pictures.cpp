@@ -23,12 +23,13 @@ bool isPlainColor(const QBrush &brush)
     return brush.style() == Qt::SolidPattern && brush.color().spec() != QColor::ExtendedRgb;
 }
 
-void copyPicture(QPainter &painter, const QPointF &corner, const QImage &picture, qreal scale)
+void copyPicture(QPainter &painter, const QPointF &corner, const QPoint &offset,
+                 const QImage &picture, qreal scale)
 {
     const QTransform &transform = painter.deviceTransform();
-    const QPointF offset(transform.dx(), transform.dy());
-    const QPointF onDevice(transform.map(corner).toPoint());
-    painter.drawImage(QRectF((onDevice - offset) / scale, QSizeF(picture.size()) / scale), picture,
+    const QPointF onDevice(transform.map(corner).toPoint() + offset);
+    const QPointF origin(transform.dx(), transform.dy());
+    painter.drawImage(QRectF((onDevice - origin) / scale, QSizeF(picture.size()) / scale), picture,
                       QRectF(picture.rect()));
 }
 

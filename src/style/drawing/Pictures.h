@@ -5,6 +5,7 @@
 class QBrush;
 class QImage;
 class QPainter;
+class QPoint;
 class QPointF;
 
 /// Pictures that are copied pixel by pixel, which takes a part of the time that drawing takes.
@@ -18,8 +19,9 @@ qreal pictureScale(const QPainter &painter);
 /// Tells whether \a brush is one colour, which is all that pictures are told apart by.
 bool isPlainColor(const QBrush &brush);
 
-/// Copies \a picture with its corner at the pixel of the device that is closest to \a corner;
-/// \a scale is that of the painter.
-void copyPicture(QPainter &painter, const QPointF &corner, const QImage &picture, qreal scale);
+/// Copies \a picture with its corner \a offset pixels from the pixel of the device that is closest
+/// to \a corner; \a scale is that of the painter.
+void copyPicture(QPainter &painter, const QPointF &corner, const QPoint &offset,
+                 const QImage &picture, qreal scale);
 
 } // namespace TARN

@@ -172,7 +172,7 @@ void drawFace(QPainter &painter, const QPointF &center, const Face &face)
     }
     static SlotCache<PictureKey, QImage, 7> pictures(makePicture);
     painter.setRenderHint(QPainter::Antialiasing, false);
-    copyPicture(painter, corner, pictures.value({face, scale}), scale);
+    copyPicture(painter, corner, QPoint(), pictures.value({face, scale}), scale);
 }
 
 } // namespace TARN::Dials
