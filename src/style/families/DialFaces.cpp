@@ -78,7 +78,7 @@ void drawNotches(QPainter &painter, const QPointF &center, const Face &face)
     const qint64 last = shape.isWrapping && face.range > 0 ? face.range - 1 : face.range;
     QVarLengthArray<QLineF, 64> notches;
     for (qint64 step = 0; step <= last; step += face.interval) {
-        const qreal share = face.range > 0 ? qreal(step) / face.range : 0.5;
+        const qreal share = face.range > 0 ? qreal(step) / qreal(face.range) : 0.5;
         const qreal angle = angleOf(shape, share);
         notches.append({pointAt(center, angle, inner), pointAt(center, angle, outerRadius(shape))});
     }
