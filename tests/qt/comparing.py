@@ -71,9 +71,11 @@ def compare(plain, themed, expectations):
 
 def worse(plain, themed):
     """Returns the verdicts of what fails with the theme and does not without."""
-    not_run = Verdict("fail", "is not run")
-    missing = {(function, ""): not_run for function in plain.functions() - themed.functions()}
-    found = {**missing, **themed.failing()}
+    found = themed.failing()
+    not_run = sorted(plain.functions() - themed.functions())
+    missing = [function for function in not_run if passes(plain, (function, ""))]
+    if missing:
+        found.setdefault(("(program)", ""), Verdict("fail", f"does not run {', '.join(missing)}"))
     return {key: verdict for key, verdict in found.items() if is_worse(plain, key, verdict)}
 
 

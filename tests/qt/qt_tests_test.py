@@ -93,8 +93,9 @@ class ComparingTest(unittest.TestCase):
         self.assertEqual(self.compare(results(a="fail"), row).unexpected, {})
 
     def test_what_is_not_run_with_the_theme_is_unexpected(self):
-        found = self.compare(results(a="pass", b="fail"), results())
-        self.assertEqual(list(found.unexpected), [("a", "")])
+        found = self.compare(results(a="pass", b="fail", c="pass"), results())
+        message = "does not run a, c"
+        self.assertEqual(found.unexpected, {("(program)", ""): Verdict("fail", message)})
 
     def test_what_is_listed_is_expected(self):
         found = self.compare(results(a="pass"), results(a="fail"), "sample | a | It is larger.")

@@ -49,7 +49,7 @@ class Results:
 
     def better_of(self, other):
         """Returns the better verdict of each row; but what crashes once, crashes."""
-        better = {**other.verdicts, **self.verdicts}
+        better = {**self.verdicts, **other.verdicts}
         for key in self.verdicts.keys() & other.verdicts.keys():
             better[key] = min(self.verdicts[key], other.verdicts[key], key=preference)
         return Results(better)
