@@ -42,11 +42,6 @@ OptionMaker item(const std::function<void(Item &)> &prepare = {})
     };
 }
 
-void makeGap(Item &option)
-{
-    option.rect = QRect(option.rect.left(), option.rect.center().y(), option.rect.width(), 0);
-}
-
 void makeAlternate(Item &option)
 {
     option.features |= Item::Alternate;
@@ -102,8 +97,6 @@ QVector<ElementSample> viewParts()
          squareSize},
         {QStyle::PE_IndicatorItemViewItemDrop, "Drop place", restingStates(), tree,
          item<QTreeView>()},
-        {QStyle::PE_IndicatorItemViewItemDrop, "Drop place between items", restingStates(), tree,
-         item<QTreeView>(makeGap)},
     };
 }
 

@@ -172,6 +172,7 @@ void FramePaintTest::line()
     QFETCH(int, lineWidth);
     QFETCH(QRect, expected);
     QStyleOptionFrame option = frameOption(shape, shadow, lineWidth);
+    option.palette = m_recorder.style().getPalette();
     for (const bool enabled : {true, false}) {
         option.state.setFlag(QStyle::State_Enabled, enabled);
         const QString name = enabled ? text("CardBorderBrush") : text("CardBorderBrushDisabled");

@@ -6,6 +6,7 @@
 #include <QtWidgets/QPlainTextEdit>
 #include <QtWidgets/QTextEdit>
 
+#include <support/TestedMode.h>
 #include <support/Text.h>
 #include <support/painting/CallRecorder.h>
 #include <support/painting/OddRectangles.h>
@@ -100,6 +101,11 @@ void InputPaintTest::frameOfComboBoxListIsThatOfMenus()
     const QWidget *container = comboBox.view()->parentWidget();
     const QStyleOptionFrame option = frameOption(QStyle::State_Enabled);
     const QImage picture = recorder.picture(QStyle::PE_Frame, option, container, size);
+    if (testsCompleteMode()) {
+        // It is a frame alone, whose ground is the list's.
+        QVERIFY(recorder.elements().isEmpty());
+        return;
+    }
     QCOMPARE(recorder.elements(), QStringList{text("PE_PanelMenu")});
     const PaintCall call = recorder.call("PE_PanelMenu");
     QCOMPARE(call.rect, option.rect);

@@ -93,6 +93,7 @@ void TabLabelPaintTest::iconHasTheColorOfTheText()
     const PaintTheme theme;
     CallRecorder recorder;
     QStyleOptionTab option = tabOption(QStyle::State_Enabled | QStyle::State_MouseOver);
+    option.palette = recorder.style().getPalette();
     option.text.clear();
     option.icon = squareIcon();
     option.iconSize = QSize(16, 16);
