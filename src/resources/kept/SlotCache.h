@@ -15,12 +15,14 @@ struct KeyAlone
     friend bool operator==(KeyAlone, KeyAlone) { return true; }
 };
 
+inline constexpr std::size_t hashFactor = 31;
+
 /// Returns one number for \a parts, for the hash() of a key.
 inline std::size_t mixedHash(std::initializer_list<std::size_t> parts)
 {
     std::size_t hash = 0;
     for (const std::size_t part : parts) {
-        hash = hash * 31 + part;
+        hash = hash * hashFactor + part;
     }
     return hash;
 }
@@ -53,6 +55,8 @@ inline std::size_t mixedHash(std::initializer_list<std::size_t> parts)
 template <typename Key, typename Value, std::size_t pairCount, typename Circumstances = KeyAlone>
 class SlotCache
 {
+    static_assert(pairCount % hashFactor != 0, "of a mixedHash(), only the last part would count");
+
 public:
     using Make = Value (*)(const Key &key);
 

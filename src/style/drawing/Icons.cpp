@@ -139,7 +139,7 @@ void drawKeptIcon(QPainter &painter, const QRect &rect, const char *name, const 
         drawTintedIcon(painter, rect, keptIcon(name), brush);
         return;
     }
-    static SlotCache<PictureKey, KeptPicture, 31, ThemeGeneration> pictures(makePicture);
+    static SlotCache<PictureKey, KeptPicture, 61, ThemeGeneration> pictures(makePicture);
     const KeptPicture &kept = pictures.value({name, brush.color().rgba(), rect.width(), scale});
     copyPicture(painter, rect.topLeft(), kept.corner, kept.picture, scale);
 }
