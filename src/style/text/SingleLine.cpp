@@ -139,8 +139,19 @@ bool hasOneKey(const QString &text, int flags)
            text.count(QLatin1Char('&')) <= 1;
 }
 
+/// Tabs are no part of a plain line, so there is nothing to expand.
 constexpr int plainFlags = Qt::AlignHorizontal_Mask | Qt::AlignVertical_Mask | Qt::TextSingleLine |
-                           Qt::TextDontClip | Qt::TextShowMnemonic | Qt::TextHideMnemonic;
+                           Qt::TextDontClip | Qt::TextShowMnemonic | Qt::TextHideMnemonic |
+                           Qt::TextExpandTabs | Qt::TextForceLeftToRight | Qt::TextForceRightToLeft;
+
+/// Returns the direction of a text, which labels ask for whatever that of the painter is.
+Qt::LayoutDirection directionOf(const QPainter &painter, int flags)
+{
+    if ((flags & Qt::TextForceLeftToRight) != 0) {
+        return Qt::LeftToRight;
+    }
+    return (flags & Qt::TextForceRightToLeft) != 0 ? Qt::RightToLeft : painter.layoutDirection();
+}
 
 } // namespace
 
@@ -150,7 +161,7 @@ bool drawSingleLine(QPainter &painter, const QRect &rect, int flags, const QStri
         !isPlainLine(text) || !hasOneKey(text, flags)) {
         return false;
     }
-    const Qt::LayoutDirection direction = painter.layoutDirection();
+    const Qt::LayoutDirection direction = directionOf(painter, flags);
     const auto line = keptText<Line, keptLineCount>(LineKey{
         text, painter.font(), painter.device()->logicalDpiY(), direction, mnemonicOf(flags)});
     const Qt::Alignment alignment = QStyle::visualAlignment(direction, Qt::Alignment(flags));

@@ -103,7 +103,9 @@ constexpr int modes[] = {0,
                          Qt::TextShowMnemonic | Qt::TextHideMnemonic,
                          Qt::TextSingleLine,
                          Qt::TextDontClip,
-                         Qt::TextWordWrap};
+                         Qt::TextWordWrap,
+                         Qt::TextExpandTabs | Qt::TextForceLeftToRight,
+                         Qt::TextForceRightToLeft | Qt::TextShowMnemonic};
 
 } // namespace
 
