@@ -1,6 +1,5 @@
 #include "theme/AddedFonts.h"
 
-#include <QtCore/QCryptographicHash>
 #include <QtCore/QDir>
 #include <QtGui/QFontDatabase>
 
@@ -11,14 +10,26 @@ namespace TARN {
 
 namespace {
 
-QByteArray digestOf(const QString &path)
+QByteArray contentOf(const QString &path)
 {
     QFile file(path);
-    QCryptographicHash hash(QCryptographicHash::Sha1);
-    return file.open(QIODevice::ReadOnly) && hash.addData(&file) ? hash.result() : QByteArray();
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 } // namespace
+
+bool AddedFonts::FontFile::isUnchanged() const
+{
+    const QFileInfo info(path);
+    return info.isFile() && info.size() == size && info.lastModified() == changed;
+}
+
+/// Nothing is read before there are two files to be compared, which for the first theme there are
+/// not.
+bool AddedFonts::FontFile::hasContentOf(const FontFile &other) const
+{
+    return size == other.size && contentOf(path) == contentOf(other.path);
+}
 
 void AddedFonts::add(const QString &folder)
 {
@@ -41,20 +52,19 @@ void AddedFonts::add(const QString &folder, QVector<Font> &former)
 {
     const QFileInfoList files =
         QDir(folder).entryInfoList({QStringLiteral("*.ttf")}, QDir::NoFilter, QDir::NoSort);
-    for (const QFileInfo &file : files) {
-        const QString path = file.absoluteFilePath();
-        const QByteArray digest = digestOf(path);
-        auto *const same = std::find_if(former.begin(), former.end(), [&digest](const Font &font) {
-            return font.digest == digest;
+    for (const QFileInfo &info : files) {
+        const FontFile file{info.absoluteFilePath(), info.size(), info.lastModified()};
+        auto *const same = std::find_if(former.begin(), former.end(), [&file](const Font &font) {
+            return font.file.isUnchanged() && font.file.hasContentOf(file);
         });
-        if (same != former.end() && !digest.isEmpty()) {
+        if (same != former.end()) {
             m_fonts.append(*same);
             former.erase(same);
             continue;
         }
-        const int id = QFontDatabase::addApplicationFont(path);
+        const int id = QFontDatabase::addApplicationFont(file.path);
         if (id >= 0) {
-            m_fonts.append({id, path, digest});
+            m_fonts.append({id, file});
             m_lookUpsAreOutdated = true;
         }
     }
@@ -66,7 +76,7 @@ void AddedFonts::forgetLookUps()
         return;
     }
     // The font database forgets what it has found when a font is removed, and not before.
-    const int id = QFontDatabase::addApplicationFont(m_fonts.first().path);
+    const int id = QFontDatabase::addApplicationFont(m_fonts.first().file.path);
     QFontDatabase::removeApplicationFont(id);
     m_lookUpsAreOutdated = false;
 }

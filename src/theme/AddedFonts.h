@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QtCore/QByteArray>
+#include <QtCore/QDateTime>
 #include <QtCore/QString>
 #include <QtCore/QVector>
 
@@ -19,11 +19,21 @@ public:
     void replace(const QString &folder);
 
 private:
+    /// A file as long as nobody writes it.
+    struct FontFile
+    {
+        QString path;
+        qint64 size;
+        QDateTime changed;
+
+        bool isUnchanged() const;
+        bool hasContentOf(const FontFile &other) const;
+    };
+
     struct Font
     {
         int id;
-        QString path;
-        QByteArray digest; ///< of the content of the file
+        FontFile file;
     };
 
     /// Registers the fonts in \a folder but for those that are among \a former, which are taken
