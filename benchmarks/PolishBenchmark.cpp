@@ -80,21 +80,35 @@ constexpr WidgetMaker makers[] = {
     tabWidget,
 };
 
-/// Creates a window of many widgets, polishes all of them and lays them out.
-void openWindow()
+/// What a window took, in nanoseconds.
+struct WindowTime
 {
+    double polishing;
+    double layout; ///< asking all widgets for their sizes
+    double whole;  ///< with making the widgets
+};
+
+/// Creates a window of many widgets, polishes all of them and lays them out.
+WindowTime openWindow()
+{
+    QElapsedTimer timer;
+    timer.start();
     QWidget window;
     auto *grid = new QGridLayout(&window);
     for (int i = 0; i < WidgetCount; ++i) {
         grid->addWidget(makers[i % std::size(makers)](), i / ColumnCount, i % ColumnCount);
     }
+    const qint64 made = timer.nsecsElapsed();
     window.ensurePolished();
     const QList<QWidget *> widgets = window.findChildren<QWidget *>();
     for (const QWidget *widget : widgets) {
         widget->ensurePolished();
     }
+    const qint64 polished = timer.nsecsElapsed();
     grid->activate();
     benchmark::DoNotOptimize(window.sizeHint());
+    const qint64 laidOut = timer.nsecsElapsed();
+    return {double(polished - made), double(laidOut - polished), double(laidOut)};
 }
 
 double median(std::vector<double> values)
@@ -104,19 +118,43 @@ double median(std::vector<double> values)
     return *middle;
 }
 
-/// Returns the median of a few windows, in nanoseconds.
-double windowTime()
+/// What windows took that were opened under a style.
+class WindowTimes
 {
-    constexpr int windowCount = 5;
-    openWindow();
-    std::vector<double> times;
-    for (int i = 0; i < windowCount; ++i) {
-        QElapsedTimer timer;
-        timer.start();
+public:
+    /// Opens a few windows.
+    void measure()
+    {
+        constexpr int windowCount = 5;
         openWindow();
-        times.push_back(static_cast<double>(timer.nsecsElapsed()));
+        for (int i = 0; i < windowCount; ++i) {
+            m_times.push_back(openWindow());
+        }
     }
-    return median(times);
+
+    double medianOf(double WindowTime::*part) const
+    {
+        std::vector<double> values;
+        for (const WindowTime &time : m_times) {
+            values.push_back(time.*part);
+        }
+        return median(std::move(values));
+    }
+
+private:
+    std::vector<WindowTime> m_times;
+};
+
+void report(benchmark::State &state, const WindowTimes &fusion, const WindowTimes &theme)
+{
+    const auto ratio = [&](double WindowTime::*part) {
+        return theme.medianOf(part) / fusion.medianOf(part);
+    };
+    state.counters["fusion_ms"] = fusion.medianOf(&WindowTime::whole) * 1e-6;
+    state.counters["theme_ms"] = theme.medianOf(&WindowTime::whole) * 1e-6;
+    state.counters["theme/fusion"] = ratio(&WindowTime::whole);
+    state.counters["polishing/fusion"] = ratio(&WindowTime::polishing);
+    state.counters["layout/fusion"] = ratio(&WindowTime::layout);
 }
 
 /// The styles change while the benchmark runs; the first applied theme stays.
@@ -135,12 +173,17 @@ QStyle *createThemeStyle(const QPalette &palette)
     return style;
 }
 
-/// Opens the window under the theme's style, in turn with the toolkit's own, and reports the ratio
-/// of the medians.
+void applyTheme()
+{
+    TARN::BaseTheme(QStringLiteral(MOX_SHIPPED_THEMES "/Dark")).customize(qApp);
+}
+
+/// Opens windows under the theme's style, in turn with the toolkit's own, and reports the ratios of
+/// the medians.
 void openWindowUnderTheme(benchmark::State &state, bool withStyleSheet)
 {
     static const bool applied = [] {
-        TARN::BaseTheme(QStringLiteral(MOX_SHIPPED_THEMES "/Dark")).customize(qApp);
+        applyTheme();
         return true;
     }();
     Q_UNUSED(applied)
@@ -148,18 +191,16 @@ void openWindowUnderTheme(benchmark::State &state, bool withStyleSheet)
     static const QPalette palette = QApplication::palette();
     const QString styleSheet = withStyleSheet ? themeStyleSheet : QString();
 
-    std::vector<double> fusion;
-    std::vector<double> theme;
+    WindowTimes fusion;
+    WindowTimes theme;
     for ([[maybe_unused]] auto iteration : state) {
         useStyle(QStyleFactory::create(QStringLiteral("fusion")), palette, styleSheet);
-        fusion.push_back(windowTime());
+        fusion.measure();
         useStyle(createThemeStyle(palette), palette, styleSheet);
-        theme.push_back(windowTime());
-        state.SetIterationTime(theme.back() * 1e-9);
+        theme.measure();
+        state.SetIterationTime(theme.medianOf(&WindowTime::whole) * 1e-9);
     }
-    state.counters["fusion_ms"] = median(fusion) * 1e-6;
-    state.counters["theme_ms"] = median(theme) * 1e-6;
-    state.counters["theme/fusion"] = median(theme) / median(fusion);
+    report(state, fusion, theme);
 }
 BENCHMARK_CAPTURE(openWindowUnderTheme, style_alone, false)
     ->UseManualTime()
@@ -169,6 +210,24 @@ BENCHMARK_CAPTURE(openWindowUnderTheme, with_stylesheet, true)
     ->UseManualTime()
     ->Unit(benchmark::kMillisecond)
     ->Iterations(15);
+
+/// The same in the complete mode, which every application of the theme brings anew.
+void openWindowInCompleteMode(benchmark::State &state)
+{
+    qApp->setProperty("appCompleteTheming", true);
+    WindowTimes fusion;
+    WindowTimes theme;
+    for ([[maybe_unused]] auto iteration : state) {
+        useStyle(QStyleFactory::create(QStringLiteral("fusion")), QPalette(), QString());
+        fusion.measure();
+        applyTheme();
+        theme.measure();
+        state.SetIterationTime(theme.medianOf(&WindowTime::whole) * 1e-9);
+    }
+    report(state, fusion, theme);
+    qApp->setProperty("appCompleteTheming", QVariant());
+}
+BENCHMARK(openWindowInCompleteMode)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(15);
 
 } // namespace
 
